@@ -1,0 +1,1 @@
+# Filled in with the exported targets, headers, package and pkg-config files.

@@ -1,0 +1,35 @@
+# The core: every floor from foundation/ to isd/, without GDAL.
+file(
+    GLOB_RECURSE
+    ORMO_CORE_SOURCES
+    CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/foundation/*.cpp"
+    "${PROJECT_SOURCE_DIR}/fields/*.cpp"
+    "${PROJECT_SOURCE_DIR}/raster/*.cpp"
+    "${PROJECT_SOURCE_DIR}/tre/*.cpp"
+    "${PROJECT_SOURCE_DIR}/segments/*.cpp"
+    "${PROJECT_SOURCE_DIR}/nitf/*.cpp"
+    "${PROJECT_SOURCE_DIR}/isd/*.cpp")
+list(FILTER ORMO_CORE_SOURCES EXCLUDE REGEX "/raster/gdal/|/nitf/NITFFactory\\.cpp$")
+
+# Compiled once; the shared library is what users get, the static archive lets the tests reach internals.
+add_library(ormo_csm_objects OBJECT ${ORMO_CORE_SOURCES})
+ormo_library_settings(ormo_csm_objects)
+target_compile_definitions(ormo_csm_objects PRIVATE ORMO_CSM_BUILDING)
+target_link_libraries(ormo_csm_objects PUBLIC ormo_csmapi)
+
+add_library(ormo_csm)
+add_library(Ormo::csm ALIAS ormo_csm)
+ormo_library_settings(ormo_csm)
+target_link_libraries(ormo_csm PRIVATE $<BUILD_INTERFACE:ormo_csm_objects>)
+target_link_libraries(ormo_csm PUBLIC ormo_csmapi PRIVATE ${CMAKE_DL_LIBS})
+target_compile_features(ormo_csm PUBLIC cxx_std_17)
+set_target_properties(ormo_csm PROPERTIES EXPORT_NAME csm LINKER_LANGUAGE CXX)
+target_include_directories(
+    ormo_csm PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm>)
+
+if(ORMO_BUILD_TESTS OR ORMO_BUILD_BENCH OR ORMO_BUILD_FUZZ)
+    add_library(ormo_csm_internal STATIC)
+    target_link_libraries(ormo_csm_internal PUBLIC ormo_csm_objects ormo_settings ormo_csmapi ${CMAKE_DL_LIBS})
+    set_target_properties(ormo_csm_internal PROPERTIES LINKER_LANGUAGE CXX)
+endif()
