@@ -1,0 +1,79 @@
+#include "fields/ByteSource.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+namespace {
+
+std::string SystemReason()
+{
+    return std::generic_category().message(errno);
+}
+
+}  // namespace
+
+std::unique_ptr<ByteSource> ByteSource::Open(const std::string& aPath, std::string& aReason)
+{
+    // Without O_NONBLOCK the open of a FIFO would wait for a writer.
+    const int descriptor = ::open(aPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0) {
+        aReason = SystemReason();
+        return nullptr;
+    }
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        aReason = S_ISDIR(status.st_mode) ? "Is a directory" : "Is not a regular file";
+        ::close(descriptor);
+        return nullptr;
+    }
+    return std::unique_ptr<ByteSource>(new ByteSource(aPath, descriptor, static_cast<std::uint64_t>(status.st_size)));
+}
+
+ByteSource::ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize)
+    : m_path(std::move(aPath)), m_descriptor(aDescriptor), m_size(aSize)
+{
+}
+
+ByteSource::~ByteSource()
+{
+    ::close(m_descriptor);
+}
+
+bool ByteSource::Read(std::uint64_t aOffset, std::uint64_t aLength, std::string& aOut) const
+{
+    aOut.clear();
+    if (!Holds(aOffset, aLength)) {
+        return false;
+    }
+    aOut.resize(static_cast<std::size_t>(aLength));
+    std::size_t done = 0;
+    while (done != aOut.size()) {
+        const ssize_t count =
+            ::pread(m_descriptor, aOut.data() + done, aOut.size() - done, static_cast<off_t>(aOffset + done));
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {  // the file became shorter while it was read, or the system failed
+            aOut.clear();
+            return false;
+        }
+        done += static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+bool ByteSource::ReadUpTo(std::uint64_t aOffset, std::uint64_t aMost, std::string& aOut) const
+{
+    const std::uint64_t held = aOffset < m_size ? m_size - aOffset : 0;
+    return Read(std::min(aOffset, m_size), std::min(aMost, held), aOut);
+}
+
+}  // namespace ORMO::SensorModel::CSM::Detail

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+/// One open file: reads by offset, knows the real size, refuses a length that the file cannot hold. Never waits: only
+/// regular files are opened.
+class ByteSource
+{
+public:
+    /// Opens a regular file for reading; null, with the reason in `aReason`, when there is none to read.
+    [[nodiscard]] static std::unique_ptr<ByteSource> Open(const std::string& aPath, std::string& aReason);
+
+    ~ByteSource();
+    ByteSource(const ByteSource&) = delete;
+    ByteSource& operator=(const ByteSource&) = delete;
+
+    /// Bytes that the file held when it was opened.
+    std::uint64_t Size() const noexcept { return m_size; }
+    const std::string& Path() const noexcept { return m_path; }
+    int Descriptor() const noexcept { return m_descriptor; }
+
+    /// Whether `aLength` bytes stand at `aOffset`; never wraps.
+    bool Holds(std::uint64_t aOffset, std::uint64_t aLength) const noexcept
+    {
+        return aOffset <= m_size && aLength <= m_size - aOffset;
+    }
+
+    /// All of the bytes or none: false, with `aOut` empty, when the file does not hold them (any more) or the system
+    /// fails to read. Nothing is allocated before the length is checked.
+    [[nodiscard]] bool Read(std::uint64_t aOffset, std::uint64_t aLength, std::string& aOut) const;
+
+    /// As many of the bytes as the file holds.
+    [[nodiscard]] bool ReadUpTo(std::uint64_t aOffset, std::uint64_t aMost, std::string& aOut) const;
+
+private:
+    ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize);
+
+    std::string m_path;
+    int m_descriptor;
+    std::uint64_t m_size;
+};
+
+}  // namespace ORMO::SensorModel::CSM::Detail

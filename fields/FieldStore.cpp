@@ -1,0 +1,147 @@
+#include "fields/FieldStore.h"
+
+#include <algorithm>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+void FieldStore::Begin(std::size_t aBytes)
+{
+    Clear();
+    m_arena.reserve(aBytes + m_table.FieldCount());
+    m_entries.reserve(m_table.FieldCount());
+    m_index.assign(m_table.Size(), 0);
+}
+
+void FieldStore::Reserve(std::size_t aMoreFields, std::size_t aBytesLeft)
+{
+    const std::size_t entries = m_entries.size() + aMoreFields;
+    if (entries > m_entries.capacity()) {
+        m_entries.reserve(std::max(entries, m_entries.capacity() + m_entries.capacity() / 2));
+    }
+    const std::size_t bytes = m_arena.size() + aBytesLeft + aMoreFields;
+    if (bytes > m_arena.capacity()) {
+        m_arena.reserve(bytes);
+    }
+}
+
+void FieldStore::Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue)
+{
+    FieldEntry entry;
+    entry.offset = static_cast<std::uint32_t>(m_arena.size());
+    entry.length = static_cast<std::uint32_t>(aValue.size());
+    entry.row = aRow;
+    entry.turns = aTurns;
+    m_arena.append(aValue);
+    m_arena.push_back('\0');
+    m_entries.push_back(entry);
+    m_index[aRow] = static_cast<std::uint32_t>(m_entries.size());
+}
+
+const FieldEntry* FieldStore::Latest(std::uint16_t aRow) const noexcept
+{
+    const std::uint32_t place = m_index[aRow];
+    return place == 0 ? nullptr : &m_entries[place - 1];
+}
+
+void FieldStore::Finish()
+{
+    // Entries of one row were added in the order of their turns, so listing them row by row sorts them.
+    const std::size_t rows = m_table.Size();
+    m_index.assign(rows + 1 + m_entries.size(), 0);
+    for (const FieldEntry& entry : m_entries) {
+        ++m_index[entry.row + 1U];
+    }
+    for (std::size_t row = 1; row <= rows; ++row) {
+        m_index[row] += m_index[row - 1];
+    }
+    std::vector<std::uint32_t>& index = m_index;
+    for (std::size_t i = 0; i != m_entries.size(); ++i) {
+        index[rows + 1 + index[m_entries[i].row]++] = static_cast<std::uint32_t>(i);
+    }
+    for (std::size_t row = rows; row != 0; --row) {
+        index[row] = index[row - 1];
+    }
+    index[0] = 0;
+}
+
+void FieldStore::Clear() noexcept
+{
+    m_arena.clear();
+    m_entries.clear();
+    m_index.clear();
+}
+
+std::uint64_t FieldStore::Position(const FieldEntry& aEntry) const noexcept
+{
+    // One NUL stands behind every value before this one. A replaced value lies behind the next one's; its field took
+    // no bytes of its own, so it begins where the next one does.
+    auto place = static_cast<std::size_t>(&aEntry - m_entries.data());
+    if (place + 1 < m_entries.size() && aEntry.offset > m_entries[place + 1].offset) {
+        ++place;
+    }
+    return m_entries[place].offset - place;
+}
+
+std::span<const std::uint32_t> FieldStore::EntriesOf(std::uint16_t aRow) const noexcept
+{
+    const std::size_t rows = m_table.Size();
+    if (aRow >= rows || m_index.size() <= rows) {
+        return {};
+    }
+    const std::size_t first = m_index[aRow];
+    const std::size_t last = m_index[aRow + 1U];
+    return {m_index.data() + rows + 1 + first, last - first};
+}
+
+const FieldEntry* FieldStore::Find(std::uint16_t aRow, const Turns& aTurns) const noexcept
+{
+    const auto entries = EntriesOf(aRow);
+    const auto it = std::lower_bound(
+        entries.begin(), entries.end(), aTurns,
+        [this](std::uint32_t aPlace, const Turns& aWanted) { return m_entries[aPlace].turns < aWanted; });
+    if (it == entries.end() || m_entries[*it].turns != aTurns) {
+        return nullptr;
+    }
+    return &m_entries[*it];
+}
+
+const FieldEntry* FieldStore::Find(std::string_view aName) const noexcept
+{
+    Turns turns{};
+    const std::uint16_t row = m_table.Resolve(aName, turns);
+    return row == NO_ROW ? nullptr : Find(row, turns);
+}
+
+std::string_view FieldStore::Find(std::string_view aName, bool& aFound) const noexcept
+{
+    const FieldEntry* const entry = Find(aName);
+    aFound = entry != nullptr;
+    return aFound ? Value(*entry) : std::string_view{};
+}
+
+std::string FieldStore::Name(const FieldEntry& aEntry) const
+{
+    std::string name;
+    AppendName(aEntry, name);
+    return name;
+}
+
+void FieldStore::Replace(const FieldEntry& aEntry, std::string_view aValue)
+{
+    FieldEntry& entry = m_entries[static_cast<std::size_t>(&aEntry - m_entries.data())];
+    entry.offset = static_cast<std::uint32_t>(m_arena.size());
+    entry.length = static_cast<std::uint32_t>(aValue.size());
+    m_arena.append(aValue);
+    m_arena.push_back('\0');
+}
+
+bool FieldStore::operator==(const FieldStore& aOther) const noexcept
+{
+    return std::equal(m_entries.begin(), m_entries.end(), aOther.m_entries.begin(), aOther.m_entries.end(),
+                      [&](const FieldEntry& aLeft, const FieldEntry& aRight) {
+                          return aLeft.row == aRight.row && aLeft.turns == aRight.turns &&
+                                 Value(aLeft) == aOther.Value(aRight);
+                      });
+}
+
+}  // namespace ORMO::SensorModel::CSM::Detail

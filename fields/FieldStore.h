@@ -1,0 +1,83 @@
+#pragma once
+
+#include "fields/FieldTable.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+/// One field as it stands in a header or record: which row, which turns, and where its value lies in the arena.
+struct FieldEntry
+{
+    std::uint32_t offset = 0;
+    std::uint32_t length = 0;
+    std::uint16_t row = NO_ROW;
+    Turns turns{};
+};
+
+/// The values of one header or record: one arena of NUL-terminated copies and one index, whatever the number of
+/// fields. Entries stand in the order of the data. Offsets are 32 bits wide, so no more than 4 GiB fit.
+class FieldStore
+{
+public:
+    FieldStore() = default;
+    explicit FieldStore(const FieldTable& aTable) : m_table(aTable) {}
+
+    const FieldTable& Table() const noexcept { return m_table; }
+    bool IsEmpty() const noexcept { return m_entries.empty(); }
+    std::span<const FieldEntry> Entries() const noexcept { return m_entries; }
+    const FieldRow& Row(const FieldEntry& aEntry) const noexcept { return m_table.Row(aEntry.row); }
+
+    /// The bytes exactly as read. A NUL follows the last one.
+    std::string_view Value(const FieldEntry& aEntry) const noexcept
+    {
+        return {m_arena.data() + aEntry.offset, aEntry.length};
+    }
+    /// Where the field begins, counted from the first byte of the header or record.
+    std::uint64_t Position(const FieldEntry& aEntry) const noexcept;
+
+    /// The field of a name ("LON_4_1") or alias, or null.
+    const FieldEntry* Find(std::string_view aName) const noexcept;
+    const FieldEntry* Find(std::uint16_t aRow, const Turns& aTurns) const noexcept;
+    /// The value of a name, or an empty view with a null pointer.
+    std::string_view Find(std::string_view aName, bool& aFound) const noexcept;
+    /// All entries of a row, in order of their turns.
+    std::span<const std::uint32_t> EntriesOf(std::uint16_t aRow) const noexcept;
+
+    std::string Name(const FieldEntry& aEntry) const;
+    void AppendName(const FieldEntry& aEntry, std::string& aOut) const
+    {
+        m_table.AppendName(aEntry.row, aEntry.turns, aOut);
+    }
+
+    /// Gives a field another value of its own, behind the others; used where a standard lays two fields over the same
+    /// bytes.
+    void Replace(const FieldEntry& aEntry, std::string_view aValue);
+
+    bool operator==(const FieldStore& aOther) const noexcept;
+
+private:
+    friend class FieldWalk;
+    friend class WalkContext;
+
+    void Begin(std::size_t aBytes);
+    void Reserve(std::size_t aMoreFields, std::size_t aBytesLeft);
+    void Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue);
+    /// The latest entry of a row while the walk goes on.
+    const FieldEntry* Latest(std::uint16_t aRow) const noexcept;
+    void Finish();
+    void Clear() noexcept;
+
+    FieldTable m_table;
+    std::string m_arena;
+    std::vector<FieldEntry> m_entries;
+    // During the walk: the latest entry of each row, plus one. Afterwards: for each row the start of its entries in
+    // the second half, which lists the entries row by row.
+    std::vector<std::uint32_t> m_index;
+};
+
+}  // namespace ORMO::SensorModel::CSM::Detail
