@@ -1,0 +1,32 @@
+#pragma once
+
+#include "fields/FieldTable.h"
+
+#include <cstdint>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+/// How sure a layout is; shown to the user by the help.
+enum class LayoutCertainty : std::uint8_t
+{
+    Agreed,     ///< two or more independent sources agree on every width
+    OneSource,  ///< one source
+    Recalled,   ///< written down from memory of the standard
+    NotPublic   ///< no public layout: the data are kept whole as one field named DATA
+};
+
+/// All that is known of one tag: what its help says and how its data are cut into fields.
+struct TreLayout
+{
+    const char* tag;
+    const char* name;          ///< long name
+    std::uint32_t length;      ///< bytes of data when fixed; 0 when variable
+    const char* lengthRule;    ///< how a variable length comes about; "" when fixed
+    const char* placement;     ///< where the standard places it
+    const char* purpose;
+    const char* sources;       ///< what the layout rests on, separated by "; "
+    LayoutCertainty certainty;
+    FieldTable table;
+};
+
+}  // namespace ORMO::SensorModel::CSM::Detail
