@@ -1,14 +1,14 @@
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <fstream>
-#include <string>
-
 #include "TSMError.h"
 #include "TSMISDByteStream.h"
 #include "TSMISDFilename.h"
 #include "TSMISDNITF20.h"
 #include "TSMISDNITF21.h"
+
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -71,7 +71,7 @@ TEST(CsmApiRecordsTest, ClearedRecordsAreEmptyAndCanBeFilledAgain)
     EXPECT_EQ(segment.desDataLength, 0);
 }
 
-template <typename Isd>
+template<typename Isd>
 class CsmApiNitfIsdTest : public testing::Test
 {
 protected:

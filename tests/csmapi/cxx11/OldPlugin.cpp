@@ -1,11 +1,11 @@
 // A plug-in as they are written for this generation of the CSM API, built as C++11: its overrides carry exception
 // specifications that later languages refuse.
 
-#include <string>
-
 #include "TSMPlugin.h"
 #include "TSMSensorModel.h"
 #include "TSMWarning.h"
+
+#include <string>
 
 namespace {
 
@@ -44,8 +44,7 @@ public:
     {
         return nullptr;
     }
-    TSMWarning* constructSensorModelFromISD(const tsm_ISD&, const std::string&, TSMSensorModel*&) const
-        throw(TSMError)
+    TSMWarning* constructSensorModelFromISD(const tsm_ISD&, const std::string&, TSMSensorModel*&) const throw(TSMError)
     {
         return nullptr;
     }
