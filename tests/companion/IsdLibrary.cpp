@@ -22,10 +22,10 @@ ORMO_EXPORT void IsSupportedISDFile() {}
 ORMO_EXPORT void IsValidSecurityClassificationMarking() {}
 #endif
 
-/// No marking for the unclassified level, so that a loader that makes one up is found out; level 7 fails.
+/// No marking for the unclassified level, so that a loader that makes one up is found out; level 3 fails.
 ORMO_EXPORT const char* GetDefaultClassificationLevelString(int aLevel)
 {
-    if (aLevel == 7) {
+    if (aLevel == 3) {
         throw aLevel;
     }
     return aLevel == 2 ? nullptr : COMPANION_MARKING;
