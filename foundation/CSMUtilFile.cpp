@@ -110,8 +110,8 @@ void CSMUtilFile::GetFileName(const char* aPath, char** aName)
     if (aName != nullptr) {
         *aName = nullptr;
     }
-    const std::string_view path = Detail::Trimmed(Detail::ViewOf(aPath));
-    if (path.empty() || aName == nullptr) {
+    const std::string_view path = Detail::ViewOf(aPath);
+    if (Detail::Trimmed(path).empty() || aName == nullptr) {
         throw FileAccessException("ERROR: Invalid input fully qualified file name and/or NULL output parameter.",
                                   SOURCE);
     }

@@ -133,7 +133,12 @@ bool ReadIdentifier(std::string_view aText, CLSID& aIdentifier) noexcept
 struct CSMUtilWindows::MutexLock::Mutex
 {
     Mutex() = default;
-    ~Mutex() { pthread_mutex_destroy(&handle); }
+    ~Mutex()
+    {
+        if (isCreated) {
+            pthread_mutex_destroy(&handle);
+        }
+    }
     Mutex(const Mutex&) = delete;
     Mutex& operator=(const Mutex&) = delete;
 
@@ -144,13 +149,14 @@ struct CSMUtilWindows::MutexLock::Mutex
         if (pthread_mutexattr_init(&attributes) != 0) {
             return false;
         }
-        const bool isCreated = pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_RECURSIVE) == 0 &&
-                               pthread_mutex_init(&handle, &attributes) == 0;
+        isCreated = pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_RECURSIVE) == 0 &&
+                    pthread_mutex_init(&handle, &attributes) == 0;
         pthread_mutexattr_destroy(&attributes);
         return isCreated;
     }
 
-    pthread_mutex_t handle = PTHREAD_MUTEX_INITIALIZER;
+    pthread_mutex_t handle{};
+    bool isCreated = false;
 };
 
 CSMUtilWindows::MutexLock::~MutexLock()
