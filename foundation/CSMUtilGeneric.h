@@ -1,7 +1,6 @@
 #pragma once
 
-#include "TSMError.h"
-#include "TSMWarning.h"
+#include "foundation/CSMApi.h"
 #include "foundation/Export.h"
 
 #include <string>
