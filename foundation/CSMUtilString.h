@@ -88,8 +88,8 @@ public:
 
     /// -1, 0 or 1 by the values of the bytes. A null text stands before every other text, the empty one included.
     static int Compare(const char* aFirst, const char* aSecond) noexcept;
-    static int Compare(bool aIgnoreCase, const char* aFirst, const char* aSecond);
-    static int Compare(bool aIgnoreCase, const std::string& aFirst, const std::string& aSecond);
+    static int Compare(bool aIgnoreCase, const char* aFirst, const char* aSecond) noexcept;
+    static int Compare(bool aIgnoreCase, const std::string& aFirst, const std::string& aSecond) noexcept;
 
     /// Whether the text begins (ends) with the part. A null argument throws std::invalid_argument; so does an empty one
     /// in the two-argument form of StartWith. Elsewhere every text begins and ends with the empty part.
