@@ -18,6 +18,21 @@ namespace ORMO::SensorModel::CSM::Detail {
     return aText.substr(first, aText.find_last_not_of(' ') - first + 1);
 }
 
+/// The text without the white space of the C locale around it; a null pointer counts as empty.
+[[nodiscard]] constexpr std::string_view TrimWhite(std::string_view aText) noexcept
+{
+    constexpr std::string_view WHITE = " \t\n\v\f\r";
+    const auto first = aText.find_first_not_of(WHITE);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return aText.substr(first, aText.find_last_not_of(WHITE) - first + 1);
+}
+[[nodiscard]] constexpr std::string_view TrimWhite(const char* aText) noexcept
+{
+    return aText == nullptr ? std::string_view{} : TrimWhite(std::string_view(aText));
+}
+
 /// Digits only, after the padding blanks are trimmed: "007" and "  7" are 7; "-7", "+7", "7 7" and "" are not counts.
 template<typename Count>
 [[nodiscard]] bool ToCount(std::string_view aText, Count& aOut) noexcept
