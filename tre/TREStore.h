@@ -39,8 +39,6 @@ public:
     bool operator!=(const TREStore& aOther) const { return !(*this == aOther); }
 
 private:
-    friend class TREFactory;
-
     Map m_byTag;  // keys are the texts of the first TRE of each tag
     std::vector<TRE*> m_inOrder;
 };
