@@ -24,7 +24,11 @@ std::string Decoded(const char* aText)
     Text bytes;
     std::size_t length = 99;
     EXPECT_TRUE(CSMUtilString::Base64Decode(aText, bytes.Out(), length)) << aText;
-    return bytes.IsNull() ? "" : std::string(bytes.Get(), length);
+    if (bytes.IsNull()) {
+        return "";
+    }
+    EXPECT_EQ(bytes.Get()[length], '\0');
+    return std::string(bytes.Get(), length);
 }
 
 TEST(CSMUtilStringBytesTest, Base64PadsToGroupsOfFour)
