@@ -45,6 +45,15 @@ TEST(CsmApiRecordsTest, TreLengthThatIsNoNumberCountsAsNone)
     }
 }
 
+TEST(CsmApiRecordsTest, NothingBehindTheEndOfAShortTextIsTaken)
+{
+    tre extension;
+    Set(extension, std::string("BLO\0KA00001x", 12));
+    EXPECT_STREQ(extension.name, "BLO");
+    EXPECT_EQ(std::string(extension.name, sizeof extension.name), std::string("BLO\0\0\0\0", 7));
+    EXPECT_EQ(extension.length, 0);
+}
+
 TEST(CsmApiRecordsTest, ClearedRecordsAreEmptyAndCanBeFilledAgain)
 {
     tre extension;

@@ -1,6 +1,9 @@
 // A plug-in as they are written for this generation of the CSM API, built as C++11: its overrides carry exception
-// specifications that later languages refuse.
+// specifications that later languages refuse. It includes every header, so that each stays readable to that language.
 
+#include "TSMISDByteStream.h"
+#include "TSMISDFilename.h"
+#include "TSMISDNITF21.h"
 #include "TSMPlugin.h"
 #include "TSMSensorModel.h"
 #include "TSMWarning.h"
