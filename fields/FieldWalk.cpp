@@ -118,8 +118,13 @@ bool FieldWalk::Run(std::size_t aFirst, std::size_t aLast, std::size_t aDepth)
 bool FieldWalk::ReadField(std::size_t aRow)
 {
     std::uint64_t width = m_table.Row(aRow).width;
-    if (width == 0 && !Width(aRow, width)) {
-        return false;
+    if (width == 0) {
+        if (!Width(aRow, width)) {
+            return false;
+        }
+        if (width == 0 && m_table.Row(aRow).sizeAdjust < 0) {
+            return true;
+        }
     }
     std::string_view value;
     if (!m_cursor.Take(width, value)) {
@@ -159,7 +164,7 @@ bool FieldWalk::RepeatCount(std::size_t aRow, std::uint64_t& aOut)
         return true;
     }
     if (row.count != nullptr) {
-        return row.count(m_context, aOut) || Fail(Fault::NotANumber, aRow, 0);
+        return row.count(m_context, aOut) || FailAtReference(Fault::NotANumber, aRow, 0);
     }
     if (!CountOf(m_table.Link(aRow).ref, aOut)) {
         return FailAtReference(Fault::NotANumber, aRow, 0);
