@@ -80,10 +80,11 @@ constexpr FieldRow ROWS[] = {
         Field("NYPTS",    3, Required,      Integer, "002..999", "",                  "Number of Grid Points in the Y Direction",
               "How many grid points the plane has in y."),
         RepeatBy("NXPTS*NYPTS", CountGridPoints),
-            Sized("RCOORD", "TNUMRD", 0, RequiredBlank, Integer, "",         "10^-FNUMRD pixels", "Grid Point's Row Coordinate",
+            Sized("RCOORD", "TNUMRD", 0, RequiredBlank, Integer, "", "10^-FNUMRD pixels", "Grid Point's Row Coordinate",
                   "Row coordinate of one grid point, counted from REFROW, without a decimal point; blank for a point "
                   "that the grid leaves undefined."),
-            Sized("CCOORD", "TNUMCD", 0, RequiredBlank, Integer, "",         "10^-FNUMCD pixels", "Grid Point's Column Coordinate",
+            Sized("CCOORD", "TNUMCD", 0, RequiredBlank, Integer, "",
+                  "10^-FNUMCD pixels", "Grid Point's Column Coordinate",
                   "Column coordinate of one grid point, counted from REFCOL, without a decimal point; blank for a "
                   "point that the grid leaves undefined."),
         End(),
