@@ -31,7 +31,7 @@ constexpr FieldRow ROWS[] = {
     Repeat("RECNT"),
         Field("ENGLN",    2, Required, Integer, "01..99",             "bytes",   "Engineering Data Label Length",
               "Length of the label of this record."),
-        Sized("ENGLBL", "ENGLN", 0, Required, Text,    "",                   "",        "Engineering Data Label",
+        Sized("ENGLBL", "ENGLN", 0, Required, Text, "", "", "Engineering Data Label",
               "Label that says what was measured, without line ends."),
         Field("ENGMTXC",  4, Required, Integer, "0001..9999",         "",        "Engineering Matrix Data Column Count",
               "Number of columns of the value matrix."),
@@ -49,7 +49,7 @@ constexpr FieldRow ROWS[] = {
               "Unit of the values.").Alias("ENGDTU"),
         Field("ENGDATC",  8, Required, Integer, "00000001..99999932", "",        "Engineering Data Count",
               "How many values the record holds; for text, how many characters."),
-        Computed("ENGDATA", EngineeringDataLength, Required, Bytes,   "",                   "ENGDATU", "Engineering Data",
+        Computed("ENGDATA", EngineeringDataLength, Required, Bytes, "", "ENGDATU", "Engineering Data",
               "The values themselves, row after row; of the type that ENGTYP names, most significant byte first, real "
               "numbers in IEEE form."),
     End(),
