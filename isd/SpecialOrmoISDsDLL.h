@@ -3,8 +3,12 @@
 #include "foundation/CSMCnst.h"
 #include "foundation/CSMUtilWindows.h"
 #include "foundation/Export.h"
+#include "isd/SupportedISD.h"
 
 namespace ORMO::SensorModel::CSM {
+
+class ImageSupportData;
+class ImageSupportDataNITF;
 
 /// What a companion ISD library exports, under C names, and how the exports are found; never instantiated.
 class ORMO_CSM_API SpecialOrmoISDsDLL
@@ -26,6 +30,21 @@ public:
 
     /// GetDefaultClassificationLevelString of a companion: the text stays its own, and may be null.
     using GetDefaultClassificationLevelStringFunction = const char*(Util::CSMCnst::ClassType);
+    /// CreateISD: makes an ISD of the file, of a version that ISDType told. Leaves `*aOut` null when it cannot; may
+    /// throw, and what it has left in `*aOut` is then released with DelISD of the same library. The two flags are those
+    /// of ImageSupportDataFactory::Create.
+    using CreateISDFunction = void(bool aAllSegments, bool aFlag2, const char* aPath, ImageSupportData** aOut,
+                                   int aVersion, SupportedISD::Type aType);
+    /// CreateIsdNITF: the same for a NITF file, with the arguments of ImageSupportDataNITFFactory::Create.
+    using CreateIsdNITFFunction = void(const char* aPath, ImageSupportDataNITF** aOut, bool aImageSegmentsOnly,
+                                       bool aFlag2, int aImageSegment, int aVersion);
+    /// DelISD: releases an ISD of this library and nulls the pointer; leaves any other ISD as it is.
+    using DelISDFunction = void(ImageSupportData** aIsd);
+    /// ISDType: identifies a file; type and version are -1 when it is none that the library knows.
+    using ISDTypeFunction = void(const char* aPath, SupportedISD::Type* aType, int* aVersion);
+    /// IsSupportedISDFile: whether an ISD can be made of the file, and the name of its format, which stays the
+    /// library's own; null when it cannot.
+    using IsSupportedISDFileFunction = bool(const char* aPath, const char** aFormatName);
 
     /// True when the library exports all of the above; a library that does not is no ISD library.
     static bool ExportsAll(Util::CSMUtilWindows::ModuleHandle aLibrary) noexcept;
