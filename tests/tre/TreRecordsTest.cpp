@@ -148,6 +148,20 @@ INSTANTIATE_TEST_SUITE_P(
                 {"NUM_PRJ_1", "2"},
                 {"NIN_1", "01"}}}));
 
+TEST(TreRecordsTest, FieldsThatDecideTheLayoutThroughAFunctionAreNotEditable)
+{
+    for (const auto& [tag, field] :
+         {std::pair{"ENGRDA", "ENGDATC"}, std::pair{"ENGRDA", "ENGDTS"}, std::pair{"RSMDCA", "NPART"},
+          std::pair{"RSMECA", "NPAR"}, std::pair{"RSMECA", "NPARO"}, std::pair{"RSMECA", "NUMOPG"},
+          std::pair{"RSMGGA", "NXPTS"}, std::pair{"RSMGGA", "NYPTS"}, std::pair{"SOURCB", "QSS"},
+          std::pair{"SOURCB", "QOD"}}) {
+        const FieldTable& table = LayoutOf(tag).table;
+        const std::uint16_t row = table.FindAny(field);
+        ASSERT_NE(NO_ROW, row) << tag << "::" << field;
+        EXPECT_FALSE(table.IsEditable(row)) << tag << "::" << field;
+    }
+}
+
 TEST(TreBANDSBTest, EachBitOfTheMaskBringsItsFields)
 {
     struct Bit

@@ -36,7 +36,8 @@ constexpr FieldRow HEAD[] = {
     Field("NIMGE",    3, Required,      Integer, "001..999",     "", "Number of Images",
           "How many images, this one included, the covariance covers."),
     Field("NPART",    5, Required,      Integer, "00001..99999", "", "Total Number of Parameters",
-          "Number of adjustable parameters of all these images together; it is the order of the covariance matrix."),
+          "Number of adjustable parameters of all these images together; it is the order of the covariance "
+          "matrix.").Locked(),
     Repeat("NIMGE"),
         Field("IIDI",    80, Required,      Text,    "",             "", "Image Identifier",
               "Identifier of one of the images, in the order of the matrix blocks.").Alias("IID"),
@@ -46,7 +47,7 @@ constexpr FieldRow HEAD[] = {
 };
 constexpr FieldRow TAIL[] = {
     //    tag    width  need      form  values unit label
-    RepeatBy("NPART*(NPART+1)/2", CountCovarianceElements),
+    RepeatBy("NPART*(NPART+1)/2", CountCovarianceElements, "NPART"),
         Field("DERCOV", 21, Required, Real, "", "product of the units of the two parameters", "Direct Error Covariance Element",
               "One element of the upper triangle of the covariance matrix, row by row."),
     End(),

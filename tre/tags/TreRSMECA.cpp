@@ -48,10 +48,10 @@ constexpr FieldRow HEAD[] = {
           "Tells whether the unmodelled image error follows."),
     When("INCLIC", "Y"),
         Field("NPAR",     2, Conditional,      Integer, "01..36",                    "", "Number of Parameters",
-              "How many adjustable parameters are active; it is the number of rows of the mapping matrix."),
+              "How many adjustable parameters are active; it is the number of rows of the mapping matrix.").Locked(),
         Field("NPARO",    2, Conditional,      Integer, "01..36",                    "", "Number of Original Adjustable Parameters",
               "How many original sensor parameters there are; it is the number of columns of the mapping "
-              "matrix.").Alias("NPAR0"),
+              "matrix.").Alias("NPAR0").Locked(),
         Field("IGN",      2, Conditional,      Integer, "01..36",                    "", "Number of Independent Subgroups",
               "Into how many mutually uncorrelated subgroups the original parameters fall."),
         Field("CVDATE",   8, ConditionalBlank, Date,    "{YYYYMMDD}|blank=not available", "", "Version Date of the Original Image Error Covariance",
@@ -61,8 +61,8 @@ constexpr FieldRow TAIL[] = {
     //    tag    width  need         form     values    unit              label
         Repeat("IGN"),
             Field("NUMOPG",  2, Conditional, Integer, "01..36", "",               "Number of Original Adjustable Parameters in Subgroup",
-                  "How many original parameters belong to this subgroup."),
-            RepeatBy("NUMOPG*(NUMOPG+1)/2", CountGroupElements),
+                  "How many original parameters belong to this subgroup.").Locked(),
+            RepeatBy("NUMOPG*(NUMOPG+1)/2", CountGroupElements, "NUMOPG"),
                 Field("ERRCVG", 21, Conditional, Real,    "",       "product of the units of the two parameters", "Original Error Covariance Element",
                       "One element of the upper triangle of the covariance of the subgroup, row by row."),
             End(),
@@ -81,7 +81,7 @@ constexpr FieldRow TAIL[] = {
                       "Time difference at the start of the piece; zero for the first, rising after it."),
             End(),
         End(),
-        RepeatBy("NPAR*NPARO", CountMatrixElements),
+        RepeatBy("NPAR*NPARO", CountMatrixElements, "NPARO"),
             Field("MAP",    21, Conditional, Real,    "",       "",               "Mapping Matrix Element",
                   "One element of the matrix that takes the original parameters to the active adjustable parameters, "
                   "row by row."),

@@ -76,10 +76,10 @@ constexpr FieldRow ROWS[] = {
     End(),
     Repeat("NPLN"),
         Field("NXPTS",    3, Required,      Integer, "002..999", "",                  "Number of Grid Points in the X Direction",
-              "How many grid points the plane has in x."),
+              "How many grid points the plane has in x.").Locked(),
         Field("NYPTS",    3, Required,      Integer, "002..999", "",                  "Number of Grid Points in the Y Direction",
-              "How many grid points the plane has in y."),
-        RepeatBy("NXPTS*NYPTS", CountGridPoints),
+              "How many grid points the plane has in y.").Locked(),
+        RepeatBy("NXPTS*NYPTS", CountGridPoints, "NYPTS"),
             Sized("RCOORD", "TNUMRD", 0, RequiredBlank, Integer, "", "10^-FNUMRD pixels", "Grid Point's Row Coordinate",
                   "Row coordinate of one grid point, counted from REFROW, without a decimal point; blank for a point "
                   "that the grid leaves undefined."),
