@@ -78,6 +78,16 @@ bool WalkContext::Count(std::string_view aTag, std::uint64_t& aOut) const noexce
     return entry != nullptr && CountOfValue(m_store.Row(*entry), m_store.Value(*entry), aOut);
 }
 
+bool WalkContext::CountInTurn(std::string_view aTag, std::uint32_t aTurn, std::uint64_t& aOut) const noexcept
+{
+    const std::uint16_t row = m_store.Table().Find(aTag, 1);
+    const auto entries = m_store.Entries();
+    const auto it = std::find_if(entries.rbegin(), entries.rend(), [row, aTurn](const FieldEntry& aEntry) {
+        return aEntry.row == row && aEntry.turns[0] == aTurn;
+    });
+    return it != entries.rend() && CountOfValue(m_store.Row(*it), m_store.Value(*it), aOut);
+}
+
 WalkResult FieldWalk::Read(std::string_view aBytes, FieldStore& aStore)
 {
     aStore.Begin(aBytes.size());

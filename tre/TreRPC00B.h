@@ -17,6 +17,7 @@ class TreMaker;
 class ORMO_CSM_API TreRPC00B : public TreRPC00
 {
 public:
+    using TreRPC00::operator=;
     /// The table of this tag.
     static const Detail::TreLayout& Layout();
 

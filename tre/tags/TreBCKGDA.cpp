@@ -24,7 +24,7 @@ constexpr FieldRow ROWS[] = {
           "Blue part of the background colour."),
     Field("PIXSIZE",  8, Required, Real,    "",                   "",         "Pixel Size",
           "Size of a pixel, to be read with the unit field that follows."),
-    Rest("PIXUNITS", Required, Text,    "DEVICE PIXELS|INCHES|CENTIMETERS|POINTS", "", "Pixel Units",
+    Rest("PIXUNITS", Required, Text, "DEVICE PIXELS|INCHES|CENTIMETERS|POINTS", "", "Pixel Units",
           "Unit in which the sizes of this extension are measured; it takes all bytes that are left, since its width "
           "is not settled."),
 };

@@ -30,7 +30,7 @@ constexpr FieldRow ROWS[] = {
         Repeat("NUM_VAL"),
             Field("LEN_VAL",  3, Required,      Integer, "001..999", "bytes", "Length of Value",
                   "Number of bytes that the next field takes."),
-            Sized("VAL", "LEN_VAL", 0, Required,      Bytes,   "",         "UNITS", "Attribute Value",
+            Sized("VAL", "LEN_VAL", 0, Required, Bytes, "", "UNITS", "Attribute Value",
                   "One value that the attribute can take."),
             Field("DESC",    80, Required,      Text,    "",         "",      "Value Description",
                   "Meaning of that value in plain words."),

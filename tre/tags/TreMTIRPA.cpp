@@ -35,7 +35,7 @@ constexpr FieldRow ROWS[] = {
           "Number of the bar within the wide-area frame.").Alias("wambn"),
     Field("UTC",               8, Required,      Real,     "00000.00..86399.99", "s",   "Coordinated Universal Time",
           "Time of day of the scan, in seconds after midnight.").Alias("utc"),
-    Computed("SQUINT_ANGLE", SquintAngleWidth, RequiredBlank, Real,     "-60.0..+85.0",       "deg", "Squint Angle",
+    Computed("SQUINT_ANGLE", SquintAngleWidth, RequiredBlank, Real, "-60.0..+85.0", "deg", "Squint Angle",
           "Angle between the cross-track direction of the aircraft and the radar line of sight; five or six "
           "characters.").Alias("sqnta"),
     Field("COSGRZ",            7, Required,      Real,     "0.00000..1.00000|9.99999=unknown", "", "Cosine of Graze Angle",
