@@ -140,4 +140,23 @@ bool FieldTable::IsEditable(std::uint16_t aRow) const noexcept
     return !row.locked && !data && !m_links[aRow].structural && !IsFixedText(row.values);
 }
 
+bool WidthRange(const FieldTable& aTable, std::string_view aTag, std::size_t& aSmallest, std::size_t& aLargest) noexcept
+{
+    const std::uint16_t index = aTable.FindAny(aTag);
+    if (index == NO_ROW) {
+        return false;
+    }
+    const FieldRow& row = aTable.Row(index);
+    aSmallest = row.width;
+    aLargest = row.width;
+    if (row.width == 0 && row.sizeTag != nullptr) {
+        aLargest = 1;
+        for (std::uint32_t digit = 0; digit != aTable.Row(aTable.Link(index).ref).width; ++digit) {
+            aLargest *= 10;
+        }
+        aLargest -= 1 + static_cast<std::size_t>(row.sizeAdjust < 0 ? -row.sizeAdjust : 0);
+    }
+    return true;
+}
+
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -109,6 +109,11 @@ constexpr std::uint64_t FixedWidth(const FieldRow (&aRows)[N])
     return sum;
 }
 
+/// The smallest and largest width of a base tag's field; false for an unknown tag. A width given by another field goes
+/// up to the largest number that the field can hold.
+[[nodiscard]] bool WidthRange(const FieldTable& aTable, std::string_view aTag, std::size_t& aSmallest,
+                              std::size_t& aLargest) noexcept;
+
 /// A table with its links, computed from the rows at compile time.
 template<std::size_t N>
 struct FieldTableOf

@@ -78,6 +78,16 @@ bool WalkContext::Count(std::string_view aTag, std::uint64_t& aOut) const noexce
     return entry != nullptr && CountOfValue(m_store.Row(*entry), m_store.Value(*entry), aOut);
 }
 
+bool WalkContext::CountInTurn(std::string_view aTag, std::uint32_t aTurn, std::uint64_t& aOut) const noexcept
+{
+    const std::uint16_t row = m_store.Table().Find(aTag, 1);
+    const auto entries = m_store.Entries();
+    const auto it = std::find_if(entries.rbegin(), entries.rend(), [row, aTurn](const FieldEntry& aEntry) {
+        return aEntry.row == row && aEntry.turns[0] == aTurn;
+    });
+    return it != entries.rend() && CountOfValue(m_store.Row(*it), m_store.Value(*it), aOut);
+}
+
 WalkResult FieldWalk::Read(std::string_view aBytes, FieldStore& aStore)
 {
     aStore.Begin(aBytes.size());
@@ -131,8 +141,13 @@ bool FieldWalk::Run(std::size_t aFirst, std::size_t aLast, std::size_t aDepth)
 bool FieldWalk::ReadField(std::size_t aRow)
 {
     std::uint64_t width = m_table.Row(aRow).width;
-    if (width == 0 && !Width(aRow, width)) {
-        return false;
+    if (width == 0) {
+        if (!Width(aRow, width)) {
+            return false;
+        }
+        if (width == 0 && m_table.Row(aRow).sizeAdjust < 0) {
+            return true;
+        }
     }
     std::string_view value;
     if (!m_store.HasRoom(width) || !m_cursor.Take(width, value)) {

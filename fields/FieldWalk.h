@@ -48,6 +48,11 @@ public:
     std::string_view Text(std::string_view aTag) const noexcept;
     /// The value as a count (text or big-endian binary); false when it is none.
     [[nodiscard]] bool Count(std::string_view aTag, std::uint64_t& aOut) const noexcept;
+    /// The count in a field of an outermost repeat as read in one of its turns, for rows behind the end of that repeat.
+    /// Looks through what was read so far.
+    [[nodiscard]] bool CountInTurn(std::string_view aTag, std::uint32_t aTurn, std::uint64_t& aOut) const noexcept;
+    /// The turn of the outermost repeat that is walked now, counted from 1; 0 outside.
+    std::uint32_t Turn() const noexcept { return m_turns[0]; }
     /// The next bytes of the data.
     std::string_view Ahead(std::size_t aCount) const noexcept { return m_cursor.Ahead(aCount); }
     std::uint64_t BytesLeft() const noexcept { return m_cursor.Remaining(); }

@@ -9,27 +9,19 @@ namespace {
 
 /// A copy of the text from array new; null for a null or empty text and when there is no memory, since an exception
 /// without its text still serves better than none.
-char* CopyOrNull(const char* aText, bool& aFailed) noexcept
+char* CopyOrNull(const char* aText) noexcept
 {
     char* copy = nullptr;
-    if (aText == nullptr || *aText == '\0') {
-        return copy;
-    }
-    try {
-        if (Util::CSMUtilString::Copy(aText, &copy)) {
-            return copy;
-        }
-    } catch (...) {
+    if (aText != nullptr && *aText != '\0' && !Util::CSMUtilString::Copy(aText, &copy)) {
         copy = nullptr;
     }
-    aFailed = true;
     return copy;
 }
 
-char* CopyOrNull(const char* aText) noexcept
+/// True when a text that is there could not be copied.
+bool IsLost(const char* aText, const char* aCopy) noexcept
 {
-    bool failed = false;
-    return CopyOrNull(aText, failed);
+    return aText != nullptr && aCopy == nullptr;
 }
 
 }  // namespace
@@ -119,11 +111,11 @@ void CSMException::CloneObj(const CSMException& aException) noexcept
         return;
     }
     Cleanup();
-    bool failed = false;
-    m_additionalMessage = CopyOrNull(aException.m_additionalMessage, failed);
-    m_allMessages = CopyOrNull(aException.m_allMessages, failed);
-    m_source = CopyOrNull(aException.m_source, failed);
-    if (failed) {
+    m_additionalMessage = CopyOrNull(aException.m_additionalMessage);
+    m_allMessages = CopyOrNull(aException.m_allMessages);
+    m_source = CopyOrNull(aException.m_source);
+    if (IsLost(aException.m_additionalMessage, m_additionalMessage) ||
+        IsLost(aException.m_allMessages, m_allMessages) || IsLost(aException.m_source, m_source)) {
         Cleanup();
     }
 }

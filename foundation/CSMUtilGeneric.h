@@ -1,7 +1,6 @@
 #pragma once
 
-#include "TSMError.h"
-#include "TSMWarning.h"
+#include "foundation/CSMApi.h"
 #include "foundation/Export.h"
 
 #include <string>
@@ -12,7 +11,8 @@ namespace ORMO::SensorModel::CSM::Util {
 class ORMO_CSM_API CSMUtilGeneric
 {
 public:
-    /// Composes one problem line, prefix + owner + "::" + field, without "::" when the owner is empty.
+    /// Composes one problem line, prefix + owner + "::" + field, without "::" when the owner is empty. The prefix
+    /// brings the space at its end; owner and field are trimmed.
     /// With aAppend set the line is added to aMessage, behind a line feed when aMessage is not empty; otherwise it
     /// replaces aMessage. Nothing happens when the prefix or the field is null or empty. The texts may point into
     /// aMessage.

@@ -88,8 +88,8 @@ public:
 
     /// -1, 0 or 1 by the values of the bytes. A null text stands before every other text, the empty one included.
     static int Compare(const char* aFirst, const char* aSecond) noexcept;
-    static int Compare(bool aIgnoreCase, const char* aFirst, const char* aSecond);
-    static int Compare(bool aIgnoreCase, const std::string& aFirst, const std::string& aSecond);
+    static int Compare(bool aIgnoreCase, const char* aFirst, const char* aSecond) noexcept;
+    static int Compare(bool aIgnoreCase, const std::string& aFirst, const std::string& aSecond) noexcept;
 
     /// Whether the text begins (ends) with the part. A null argument throws std::invalid_argument; so does an empty one
     /// in the two-argument form of StartWith. Elsewhere every text begins and ends with the empty part.
@@ -153,7 +153,7 @@ public:
     static bool BinaryToUnsignedInt64(const char* aBytes, std::size_t aCount, std::uint64_t& aOut) noexcept;
     /// The decimal text of a big-endian unsigned value of any number of bytes, without leading zeros: the bytes 01 00
     /// give "256", nine bytes FF give "4722366482869645213695", bytes of zero give "0". False for null or no bytes.
-    /// The time grows with the square of the count; 100,000 bytes take less than a second.
+    /// The time grows with the square of the count; 100,000 bytes take about a second.
     static bool DecimalRepresentationOfBinary(const char* aBytes, std::size_t aCount, char** aOut) noexcept;
 
     /// Rounds a value to the figures that its uncertainty supports.

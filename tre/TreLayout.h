@@ -19,12 +19,12 @@ enum class LayoutCertainty : std::uint8_t
 struct TreLayout
 {
     const char* tag;
-    const char* name;          ///< long name
-    std::uint32_t length;      ///< bytes of data when fixed; 0 when variable
-    const char* lengthRule;    ///< how a variable length comes about; "" when fixed
-    const char* placement;     ///< where the standard places it
+    const char* name;        ///< long name
+    std::uint32_t length;    ///< bytes of data when fixed; 0 when variable
+    const char* lengthRule;  ///< how a variable length comes about; "" when fixed
+    const char* placement;   ///< where the standard places it
     const char* purpose;
-    const char* sources;       ///< what the layout rests on, separated by "; "
+    const char* sources;  ///< what the layout rests on, separated by "; "
     LayoutCertainty certainty;
     FieldTable table;
 };

@@ -1,8 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstring>
-
 #include "TSMError.h"
 #include "TSMISDByteStream.h"
 #include "TSMISDFilename.h"
@@ -11,6 +6,11 @@
 #include "TSMPlugin.h"
 #include "TSMSensorModel.h"
 #include "TSMWarning.h"
+
+#include <cstddef>
+#include <cstring>
+
+#include <gtest/gtest.h>
 
 // Hosts and plug-ins that were built with other base libraries of this generation rely on these numbers.
 #if defined(__x86_64__) && defined(_GLIBCXX_USE_CXX11_ABI) && _GLIBCXX_USE_CXX11_ABI
@@ -30,13 +30,13 @@ static_assert(sizeof(TSMWarning) == 72);
 static_assert(sizeof(TSMPlugin) == 8);
 static_assert(sizeof(TSMSensorModel) == 8);
 
-template <typename Object, typename Field>
+template<typename Object, typename Field>
 std::size_t Offset(const Object& aObject, const Field& aField)
 {
     return static_cast<std::size_t>(reinterpret_cast<const char*>(&aField) - reinterpret_cast<const char*>(&aObject));
 }
 
-template <typename Isd>
+template<typename Isd>
 void ExpectNitfOffsets()
 {
     const Isd isd;
@@ -74,7 +74,7 @@ TEST(CsmApiLayoutTest, RecordsKeepTheOrderOfTheirFields)
 
 /// Place of a virtual operation behind the two destructors. The Itanium ABI keeps it in the member pointer as one plus
 /// the byte offset in the table.
-template <typename Operation>
+template<typename Operation>
 std::size_t Slot(Operation aOperation)
 {
     std::size_t word = 0;

@@ -1,14 +1,14 @@
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <fstream>
-#include <string>
-
 #include "TSMError.h"
 #include "TSMISDByteStream.h"
 #include "TSMISDFilename.h"
 #include "TSMISDNITF20.h"
 #include "TSMISDNITF21.h"
+
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -45,6 +45,15 @@ TEST(CsmApiRecordsTest, TreLengthThatIsNoNumberCountsAsNone)
     }
 }
 
+TEST(CsmApiRecordsTest, NothingBehindTheEndOfAShortTextIsTaken)
+{
+    tre extension;
+    Set(extension, std::string("BLO\0KA00001x", 12));
+    EXPECT_STREQ(extension.name, "BLO");
+    EXPECT_EQ(std::string(extension.name, sizeof extension.name), std::string("BLO\0\0\0\0", 7));
+    EXPECT_EQ(extension.length, 0);
+}
+
 TEST(CsmApiRecordsTest, ClearedRecordsAreEmptyAndCanBeFilledAgain)
 {
     tre extension;
@@ -71,7 +80,7 @@ TEST(CsmApiRecordsTest, ClearedRecordsAreEmptyAndCanBeFilledAgain)
     EXPECT_EQ(segment.desDataLength, 0);
 }
 
-template <typename Isd>
+template<typename Isd>
 class CsmApiNitfIsdTest : public testing::Test
 {
 protected:

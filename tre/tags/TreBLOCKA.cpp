@@ -23,7 +23,7 @@ constexpr FieldRow ROWS[] = {
     Field("SHADOW_ANGLE",    3, RequiredBlank, Integer,  "000..359|blank=EO-IR",            "deg",     "Shadow Angle",
           "Clockwise angle from the first row of pixels to the radar shadow in the image."),
     Field("RESERVED-001",   16, RequiredBlank, Text,     "",                                "",        "Reserved 1",
-          "Reserved by the standard; sixteen spaces."),
+          "Reserved by the standard; sixteen spaces.").Alias("RESERVED_001"),
     Field("FRLC_LOC",       21, RequiredBlank, Location, "{Xddmmss.ssYdddmmss.ss}|{+dd.dddddd+ddd.dddddd}|blank", "", "First Row Last Column Location",
           "Ground location of the pixel in the first row and last column of the block."),
     Field("LRLC_LOC",       21, RequiredBlank, Location, "{Xddmmss.ssYdddmmss.ss}|{+dd.dddddd+ddd.dddddd}|blank", "", "Last Row Last Column Location",
@@ -33,7 +33,7 @@ constexpr FieldRow ROWS[] = {
     Field("FRFC_LOC",       21, RequiredBlank, Location, "{Xddmmss.ssYdddmmss.ss}|{+dd.dddddd+ddd.dddddd}|blank", "", "First Row First Column Location",
           "Ground location of the pixel in the first row and first column of the block."),
     Field("RESERVED-002",    5, RequiredBlank, Text,     "",                                "",        "Reserved 2",
-          "Reserved by the standard; the text 010.0."),
+          "Reserved by the standard; the text 010.0.").Alias("RESERVED_002"),
 };
 // clang-format on
 constexpr auto TABLE = MakeTable(ROWS);
@@ -50,10 +50,12 @@ const Detail::TreLayout& TreBLOCKA::Layout()
         .length = 123,
         .lengthRule = "",
         .placement = "image subheader",
-        .purpose = "Gives the exact corner locations and some radar angles of one image block; several may follow one "
-                   "another, one per block.",
-        .sources = "STDI-0002 Volume 1 Appendix E; GDAL TRE description file; imaging-nitf TRE description file; NITRO "
-                   "plug-in table; OSSIM tag class",
+        .purpose =
+            "Gives the exact corner locations and some radar angles of one image block; several may follow one "
+            "another, one per block.",
+        .sources =
+            "STDI-0002 Volume 1 Appendix E; GDAL TRE description file; imaging-nitf TRE description file; NITRO "
+            "plug-in table; OSSIM tag class",
         .certainty = Detail::LayoutCertainty::Agreed,
         .table = TABLE.View()};
     return LAYOUT;

@@ -20,6 +20,7 @@ class TreMaker;
     class ORMO_CSM_API aClass : public TRE                                                                  \
     {                                                                                                       \
     public:                                                                                                 \
+        using TRE::operator=;                                                                               \
         /** The table of this tag. */                                                                       \
         static const Detail::TreLayout& Layout();                                                           \
                                                                                                             \

@@ -1,11 +1,14 @@
 // A plug-in as they are written for this generation of the CSM API, built as C++11: its overrides carry exception
-// specifications that later languages refuse.
+// specifications that later languages refuse. It includes every header, so that each stays readable to that language.
 
-#include <string>
-
+#include "TSMISDByteStream.h"
+#include "TSMISDFilename.h"
+#include "TSMISDNITF21.h"
 #include "TSMPlugin.h"
 #include "TSMSensorModel.h"
 #include "TSMWarning.h"
+
+#include <string>
 
 namespace {
 
@@ -44,8 +47,7 @@ public:
     {
         return nullptr;
     }
-    TSMWarning* constructSensorModelFromISD(const tsm_ISD&, const std::string&, TSMSensorModel*&) const
-        throw(TSMError)
+    TSMWarning* constructSensorModelFromISD(const tsm_ISD&, const std::string&, TSMSensorModel*&) const throw(TSMError)
     {
         return nullptr;
     }

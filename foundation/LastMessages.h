@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+/// Operations hand out texts as pointers, and an absent text as null rather than as an empty one.
+inline const char* TextOrNull(const std::string& aText) noexcept
+{
+    return aText.empty() ? nullptr : aText.c_str();
+}
+
+/// The texts of a factory's last call. A factory keeps one object per thread, so that callers in different threads
+/// never read, or free, each other's texts.
+struct LastMessages
+{
+    std::string error;
+    std::string warning;
+
+    void Clear() noexcept
+    {
+        error.clear();
+        warning.clear();
+    }
+
+    void SetError(const char* aText) { error = aText == nullptr ? "" : aText; }
+    void SetWarning(const char* aText) { warning = aText == nullptr ? "" : aText; }
+};
+
+}  // namespace ORMO::SensorModel::CSM::Detail

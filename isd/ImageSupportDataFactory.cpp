@@ -1,0 +1,245 @@
+#include "isd/ImageSupportDataFactory.h"
+
+#include "foundation/CSMExceptions.h"
+#include "foundation/CSMUtilString.h"
+#include "foundation/LastMessages.h"
+#include "isd/ImageSupportDataNITF.h"
+#include "isd/ImageSupportDataNITFFactory.h"
+#include "isd/ImageSupportDataOSDEFactory.h"
+#include "isd/IsdCompanion.h"
+#include "isd/WrapperCSMISD.h"
+#include "nitf/NITFCnst.h"
+#include "raster/GDALNITFFileReader.h"
+#include "raster/GDALOSDEFileReader.h"
+
+#include <new>
+#include <stdexcept>
+
+namespace ORMO::SensorModel::CSM {
+
+using Detail::IsdCompanion;
+
+namespace {
+
+Detail::LastMessages& Messages() noexcept
+{
+    thread_local Detail::LastMessages messages;
+    return messages;
+}
+
+[[noreturn]] void RefuseArguments()
+{
+    constexpr const char* TEXT = "ERROR: Invalid input argument(s).";
+    Messages().SetError(TEXT);
+    throw std::invalid_argument(TEXT);
+}
+
+[[noreturn]] void FailConstruction(const char* aError)
+{
+    Messages().SetError(aError == nullptr || *aError == '\0'
+                            ? "ERROR: Failed to create an ImageSupportData object given the input image file."
+                            : aError);
+    throw ImageSupportDataConstructionException(Messages().error.c_str(), "ImageSupportDataFactory::CreateISD");
+}
+
+/// What a file is.
+struct Identity
+{
+    SupportedISD::Type type = SupportedISD::ISD_TYPE_UNKNOWN;
+    int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+};
+
+bool IsReadableNitf(int aVersion) noexcept
+{
+    return aVersion == NITFCnst::NITF_VERSION_NUMBER_21 || aVersion == NITFCnst::NSIF_VERSION_NUMBER_10 ||
+           aVersion == NITFCnst::NITF_VERSION_NUMBER_20;
+}
+
+/// NITF 1.1 is told apart although it cannot be read: its caller learns that from a text of its own.
+Identity IdentifyBuiltIn(const char* aPath)
+{
+    int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+    if (GDALNITFFileReader::IsNITFFile(aPath, version)) {
+        return {SupportedISD::ISD_TYPE_NITF, version};
+    }
+    if (GDALOSDEFileReader::IsOSDEFile(aPath, version) && (version == 11 || version == 12)) {
+        return {SupportedISD::ISD_TYPE_OSDE, version};
+    }
+    return {};
+}
+
+Identity Identify(const char* aPath)
+{
+    const auto ask = IsdCompanion::Secret().isdType;
+    if (ask == nullptr) {
+        return IdentifyBuiltIn(aPath);
+    }
+    Identity identity;
+    try {
+        ask(aPath, &identity.type, &identity.version);
+        return identity;
+    } catch (...) {
+        // What a companion fails to tell counts as not known.
+        return {};
+    }
+}
+
+/// The companion's ISD; null, with nothing left behind, when it fails.
+ImageSupportData* CreateByCompanion(const IsdCompanion& aCompanion, const char* aPath, bool aAllSegments, bool aFlag2,
+                                    const Identity& aIdentity)
+{
+    ImageSupportData* isd = nullptr;
+    try {
+        aCompanion.createISD(aAllSegments, aFlag2, aPath, &isd, aIdentity.version, aIdentity.type);
+        return isd;
+    } catch (...) {
+        aCompanion.Offer(isd);
+        return nullptr;
+    }
+}
+
+/// Hands the work to the format's factory; null, with the reason in aError, when it makes nothing.
+ImageSupportData* CreateByFormat(const char* aPath, bool aAllSegments, bool aFlag2, const Identity& aIdentity,
+                                 const char*& aError)
+{
+    if (aIdentity.type == SupportedISD::ISD_TYPE_NITF) {
+        ImageSupportDataNITF* isd = nullptr;
+        // The flag of the NITF factory means the opposite: image segments only.
+        ImageSupportDataNITFFactory::Create(aPath, &isd, !aAllSegments, aFlag2, -1,
+                                            static_cast<NITFCnst::Version>(aIdentity.version));
+        Messages().SetWarning(ImageSupportDataNITFFactory::GetWarningMessage());
+        aError = ImageSupportDataNITFFactory::GetErrorMessage();
+        return isd;
+    }
+    if (aIdentity.type == SupportedISD::ISD_TYPE_OSDE) {
+        ImageSupportData* isd = nullptr;
+        ImageSupportDataOSDEFactory::Create(aPath, &isd, aFlag2, aIdentity.version);
+        Messages().SetWarning(ImageSupportDataOSDEFactory::GetWarningMessage());
+        aError = ImageSupportDataOSDEFactory::GetErrorMessage();
+        return isd;
+    }
+    aError = "ERROR: Image format not supported by the Ormo CSM System.";
+    return nullptr;
+}
+
+}  // namespace
+
+void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2)
+{
+    Messages().Clear();
+    if (aOut == nullptr) {
+        RefuseArguments();
+    }
+    const Identity identity = Identify(aPath);
+    const bool isNitf = identity.type == SupportedISD::ISD_TYPE_NITF;
+    const bool isOsde = identity.type == SupportedISD::ISD_TYPE_OSDE;
+    if (!isNitf && !isOsde && identity.type != SupportedISD::ISD_TYPE_TFRD) {
+        RefuseArguments();
+    }
+    *aOut = nullptr;
+    const IsdCompanion* const companion = isOsde ? nullptr : IsdCompanion::Maker();
+    if (companion != nullptr) {
+        *aOut = CreateByCompanion(*companion, aPath, aAllSegments, aFlag2, identity);
+    } else if (isNitf || isOsde) {
+        CreateISD(aPath, aOut, aAllSegments, aFlag2, identity.version, identity.type);
+    }
+}
+
+void ImageSupportDataFactory::Create(const WrapperCSMISD* /*aIsd*/, ImageSupportData** aOut, bool /*aFlag*/)
+{
+    Messages().Clear();
+    if (aOut != nullptr) {
+        *aOut = nullptr;
+    }
+    // No class of wrapper can be told from another yet, and none is known to hold what a NITF ISD needs.
+    Messages().SetError(
+        "ERROR: Input WrapperCSMISD object or the input WrapperCSMISD type is currently not supported by the "
+        "ImageSupportData factory.");
+    throw UnsupportedImageSupportDataException(Messages().error.c_str(), "ImageSupportDataFactory::Create");
+}
+
+void ImageSupportDataFactory::CreateISD(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2,
+                                        int aVersion, SupportedISD::Type aType)
+{
+    Messages().Clear();
+    if (aOut == nullptr || aPath == nullptr || Util::CSMUtilString::Trim(aPath).empty()) {
+        RefuseArguments();
+    }
+    *aOut = nullptr;
+    Identity identity{aType, aVersion};
+    if (aType == SupportedISD::ISD_TYPE_NITF && !IsReadableNitf(aVersion)) {
+        identity = IdentifyBuiltIn(aPath);
+    }
+    const char* error = nullptr;
+    try {
+        *aOut = CreateByFormat(aPath, aAllSegments, aFlag2, identity, error);
+    } catch (const std::bad_alloc&) {
+        Messages().SetError("ERROR: System out of memory.");
+        throw std::bad_alloc();
+    } catch (const CSMException& exception) {
+        const char* const text = exception.GetAdditionalMessage();
+        FailConstruction(text == nullptr || *text == '\0' ? exception.GetErrorMessage() : text);
+    }
+    if (*aOut == nullptr) {
+        FailConstruction(error);
+    }
+}
+
+void ImageSupportDataFactory::Destroy(ImageSupportData** aIsd)
+{
+    Messages().Clear();
+    if (aIsd == nullptr) {
+        return;
+    }
+    ImageSupportData* isd = *aIsd;
+    *aIsd = nullptr;
+    if (const IsdCompanion* const companion = IsdCompanion::Maker(); companion != nullptr) {
+        companion->Offer(isd);
+    }
+    if (auto* nitf = dynamic_cast<ImageSupportDataNITF*>(isd); nitf != nullptr) {
+        ImageSupportDataNITFFactory::Destroy(&nitf);
+    } else {
+        delete isd;
+    }
+}
+
+SupportedISD::Type ImageSupportDataFactory::ISDType(const char* aPath, int& aVersion, bool aBuiltInOnly)
+{
+    Identity identity = aBuiltInOnly ? IdentifyBuiltIn(aPath) : Identify(aPath);
+    if (identity.type == SupportedISD::ISD_TYPE_NITF && identity.version == NITFCnst::NITF_VERSION_NUMBER_11) {
+        identity = {};
+    }
+    aVersion = identity.version;
+    return identity.type;
+}
+
+bool ImageSupportDataFactory::IsSupportedISDFile(const char* aPath, const char*& aFormatName) noexcept
+{
+    aFormatName = nullptr;
+    try {
+        for (const IsdCompanion* const companion : {&IsdCompanion::Sci(), &IsdCompanion::Secret()}) {
+            if (companion->isSupportedISDFile != nullptr) {
+                const char* name = nullptr;
+                const bool isSupported = companion->isSupportedISDFile(aPath, &name);
+                aFormatName = isSupported ? name : nullptr;
+                return isSupported;
+            }
+        }
+    } catch (...) {
+        // A companion that fails has told nothing.
+        return false;
+    }
+    return ImageSupportDataNITFFactory::IsSupportedISDFile(aPath, aFormatName);
+}
+
+const char* ImageSupportDataFactory::GetErrorMessage() noexcept
+{
+    return Detail::TextOrNull(Messages().error);
+}
+
+const char* ImageSupportDataFactory::GetWarningMessage() noexcept
+{
+    return Detail::TextOrNull(Messages().warning);
+}
+
+}  // namespace ORMO::SensorModel::CSM

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "foundation/Export.h"
+#include "isd/SupportedISD.h"
+
+namespace ORMO::SensorModel::CSM {
+
+class ImageSupportData;
+class WrapperCSMISD;
+
+/// The one entry through which an image file, or a CSM API ISD, becomes an ImageSupportData; never instantiated.
+///
+/// An installed companion library comes before the formats of this library. Companions are looked for once per process.
+/// White space around a path does not count. An ISD is released with Destroy and with nothing else. The texts of
+/// GetErrorMessage and GetWarningMessage are kept per thread, so that different threads can open files at once.
+class ORMO_CSM_API ImageSupportDataFactory
+{
+public:
+    /// Makes an ISD of a file. Without `aAllSegments` only the image segments are read. `aFlag2` goes on to the format
+    /// as it is. `*aOut` stays null, with no error, when a companion library takes the file and makes nothing of it.
+    ///
+    /// Throws std::invalid_argument for a null output and for a file of no known format, else what CreateISD throws.
+    static void Create(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2);
+
+    /// Makes an ISD of a CSM API ISD. Throws UnsupportedImageSupportDataException for a null argument and for a wrapper
+    /// of a class that the library does not know.
+    static void Create(const WrapperCSMISD* aIsd, ImageSupportData** aOut, bool aFlag);
+
+    /// Makes an ISD of a known type and version (NITFCnst::Version for NITF), which no companion is asked about. For
+    /// NITF a version that cannot be read makes the factory look into the file.
+    ///
+    /// Throws std::invalid_argument for a null output or an empty path, std::bad_alloc, and
+    /// ImageSupportDataConstructionException, with the format's error text, for all else that fails.
+    static void CreateISD(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2, int aVersion,
+                          SupportedISD::Type aType);
+
+    /// Releases an ISD and nulls the pointer. Null is ignored.
+    static void Destroy(ImageSupportData** aIsd);
+
+    /// The type of a file, ISD_TYPE_UNKNOWN with version -1 when this system reads none of its kind. With
+    /// `aBuiltInOnly` no companion is asked.
+    static SupportedISD::Type ISDType(const char* aPath, int& aVersion, bool aBuiltInOnly);
+
+    /// Whether an ISD can be made of the file; aFormatName is then its format, else null. Never throws.
+    static bool IsSupportedISDFile(const char* aPath, const char*& aFormatName) noexcept;
+
+    /// Texts of this thread's last call that makes or destroys, null when there is nothing to say. They live until the
+    /// next such call.
+    static const char* GetErrorMessage() noexcept;
+    static const char* GetWarningMessage() noexcept;
+
+private:
+    ImageSupportDataFactory();
+};
+
+}  // namespace ORMO::SensorModel::CSM

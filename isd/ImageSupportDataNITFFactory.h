@@ -1,0 +1,47 @@
+#pragma once
+
+#include "foundation/Export.h"
+#include "nitf/NITFCnst.h"
+
+#include <memory>
+
+namespace ORMO::SensorModel::CSM {
+
+class ImageSupportDataNITF;
+class WrapperCSMISD;
+
+/// Makes the image support data of NITF and NSIF files; never instantiated. A companion library comes first. Hosts use
+/// ImageSupportDataFactory, which knows every format. The texts of the last call are kept per thread.
+class ORMO_CSM_API ImageSupportDataNITFFactory
+{
+public:
+    /// Makes an ISD of a file; an NSIF 1.0 file is read as NITF 2.1. A version that is none makes the factory look into
+    /// the file. `aImageSegment` chooses the current image segment, -1 leaves the choice to the ISD. False, with a text
+    /// in GetErrorMessage and nothing in `*aOut`, for a missing argument and for a version that cannot be read.
+    ///
+    /// A file that fails while it is read raises what its ISD raises: ImageSupportDataConstructionException,
+    /// InitializationException or std::bad_alloc.
+    static bool Create(const char* aPath, ImageSupportDataNITF** aOut, bool aImageSegmentsOnly, bool aFlag2,
+                       int aImageSegment, NITFCnst::Version aVersion);
+
+    /// Makes an ISD of a CSM API ISD; false for a missing argument and for a wrapper of another class.
+    static bool Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool aFlag, int aImageSegment);
+
+    /// Releases an ISD and nulls the pointer. Null is ignored.
+    static void Destroy(ImageSupportDataNITF** aIsd);
+
+    /// Whether the file is of a version that can be read; aFormatName is then "NITF", else null. Never throws.
+    static bool IsSupportedISDFile(const char* aPath, const char*& aFormatName) noexcept;
+
+    /// Texts of this thread's last call of Create or Destroy, null when there is nothing to say.
+    static const char* GetErrorMessage() noexcept;
+    static const char* GetWarningMessage() noexcept;
+
+private:
+    ImageSupportDataNITFFactory();
+
+    static std::unique_ptr<ImageSupportDataNITF> Construct(const char* aPath, bool aImageSegmentsOnly, bool aFlag2,
+                                                           int aImageSegment, NITFCnst::Version aVersion);
+};
+
+}  // namespace ORMO::SensorModel::CSM

@@ -1,0 +1,57 @@
+#include "raster/GDALNITFFileReader.h"
+
+#include "fields/ByteSource.h"
+#include "foundation/CSMUtilString.h"
+#include "nitf/NITFCnst.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace ORMO::SensorModel::CSM {
+namespace {
+
+/// Format name and version: FHDR and FVER, one after the other.
+constexpr std::size_t IDENTITY_LENGTH = 9;
+
+constexpr NITFCnst::Version VERSIONS[] = {NITFCnst::NITF_VERSION_NUMBER_21, NITFCnst::NITF_VERSION_NUMBER_20,
+                                          NITFCnst::NSIF_VERSION_NUMBER_10, NITFCnst::NITF_VERSION_NUMBER_11};
+
+NITFCnst::Version Identify(std::string_view aBytes)
+{
+    const std::string_view identity = aBytes.substr(0, IDENTITY_LENGTH);
+    const auto* const found = std::find_if(std::begin(VERSIONS), std::end(VERSIONS), [&](NITFCnst::Version aVersion) {
+        return identity == NITFCnst::GetNITFVersionString(aVersion);
+    });
+    return found == std::end(VERSIONS) ? NITFCnst::NITF_VERSION_NUMBER_UNKNOWN : *found;
+}
+
+}  // namespace
+
+bool GDALNITFFileReader::IsNITFFile(const char* aPath, int& aVersion)
+{
+    aVersion = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+    const std::string path = Util::CSMUtilString::Trim(aPath == nullptr ? "" : aPath);
+    std::string reason;
+    const std::unique_ptr<Detail::ByteSource> file = Detail::ByteSource::Open(path, reason);
+    std::string bytes;
+    if (file != nullptr && file->ReadUpTo(0, IDENTITY_LENGTH, bytes)) {
+        aVersion = Identify(bytes);
+    }
+    return aVersion != NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+}
+
+bool GDALNITFFileReader::IsNITFFile(const unsigned char* aHeaderBytes, std::size_t aLength, int& aVersion) noexcept
+{
+    std::array<char, IDENTITY_LENGTH> bytes{};
+    if (aHeaderBytes != nullptr && aLength >= bytes.size()) {
+        std::copy_n(aHeaderBytes, bytes.size(), bytes.begin());
+    }
+    aVersion = Identify({bytes.data(), bytes.size()});
+    return aVersion != NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+}
+
+}  // namespace ORMO::SensorModel::CSM

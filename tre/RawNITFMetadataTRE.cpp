@@ -1,0 +1,90 @@
+#include "tre/RawNITFMetadataTRE.h"
+
+#include "foundation/HandOut.h"
+#include "tre/TRE.h"
+
+#include <string_view>
+
+namespace ORMO::SensorModel::CSM {
+
+RawNITFMetadataTRE::RawNITFMetadataTRE(const TRE& aTre, int aVersionNumber, const char* aClassification)
+    : RawNITFMetadata(NITFCnst::NITF_METADATA_TYPE_TRE, aVersionNumber),
+      m_tag(aTre.GetTag()),
+      m_type(TRE::GetTRETypeString(aTre.GetTREType())),
+      m_name(aTre.GetTREName()),
+      m_group(aTre.GetTRERegisterGroup()),
+      m_description(aTre.GetTREDescription()),
+      m_classification(aClassification == nullptr ? NITFCnst::STR_SC_UNKNOWN : aClassification),
+      m_generic(aTre.IsGenericTRE())
+{
+    std::size_t length = 0;
+    const char* const data = aTre.GetRawTREDataString(length);
+    SetRawDataStream(std::string(data, length), "Data of TRE " + m_tag);
+    CopyFields(aTre);
+}
+
+RawNITFMetadataTRE::RawNITFMetadataTRE(const RawNITFMetadataTRE& aOther) = default;
+
+RawNITFMetadataTRE& RawNITFMetadataTRE::operator=(const RawNITFMetadataTRE& aOther) = default;
+
+RawNITFMetadataTRE::~RawNITFMetadataTRE() = default;
+
+void RawNITFMetadataTRE::CopyFields(const TRE& aTre)
+{
+    const TRE::FieldInfos& infos = *aTre.GetAllTreFieldInfos();
+    std::string name;
+    const char* value = nullptr;
+    std::size_t length = 0;
+    for (std::size_t i = 0; aTre.GetFieldAt(i, name, value, length); ++i) {
+        const auto info = infos.find(name);
+        if (info == infos.end()) {
+            continue;
+        }
+        RawNITFMetadataField field;
+        field.tag = name;
+        field.longName = info->second.longName;
+        field.type = NITFCnst::GetFieldTypeForDisplay(info->second.requirement);
+        field.declaredSize = static_cast<int>(info->second.width);
+        field.editable = aTre.IsFieldEditable(name.c_str());
+        field.binary = aTre.IsBinaryField(name.c_str());
+        field.description = info->second.description;
+        m_fields.AddPresent(field, std::string_view(value, length));
+    }
+    SetNoMetadata(m_fields.Size() == 0);
+}
+
+std::size_t RawNITFMetadataTRE::GetRawDataStreamSize() const noexcept
+{
+    std::size_t length = 0;
+    GetRawDataStream(length);
+    return length;
+}
+
+bool RawNITFMetadataTRE::CopyTRERawData(char** aData, std::size_t& aLength) const noexcept
+{
+    const char* const data = GetRawDataStream(aLength);
+    if (aData != nullptr) {
+        *aData = nullptr;
+    }
+    if (data == nullptr || !Detail::HandOut(std::string_view(data, aLength), aData)) {
+        aLength = 0;
+        return false;
+    }
+    return true;
+}
+
+bool RawNITFMetadataTRE::GetMatadata(const char** aDataType, const EditabilityMap** aEditability,
+                                     const TextMap** aDescriptions, const SizeMap** aSizes,
+                                     const std::vector<std::string>** aTags, const TextMap** aValues,
+                                     const SizeMap** aActualSizes, const TextMap** aLongNames, const TextMap** aTypes,
+                                     const std::vector<bool>** aBinaryFields) const
+{
+    if (aDataType == nullptr) {
+        return false;
+    }
+    *aDataType = NITFCnst::KEY_TRE;
+    return m_fields.HandOut(aEditability, aDescriptions, aSizes, aTags, aValues, aActualSizes, aLongNames, aTypes,
+                            aBinaryFields);
+}
+
+}  // namespace ORMO::SensorModel::CSM

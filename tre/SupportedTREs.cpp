@@ -1,0 +1,208 @@
+#include "tre/SupportedTREs.h"
+
+#include "fields/Number.h"
+#include "foundation/Ascii.h"
+#include "nitf/NITFCnst.h"
+#include "tre/TreMaker.h"
+#include "tre/groups/SupportedTreGroups.h"
+#include "tre/groups/SupportedTreNSDE.h"
+
+#include <array>
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+/// All groups, the special providers included, in the order in which they are asked.
+const std::array<const SupportedTRE*, 11>& AllGroups()
+{
+    static const std::array<const SupportedTRE*, 11> groups{
+        &SupportedTreASDE::Instance(),        &SupportedTreCommercialSDE::Instance(),
+        &SupportedTreDPPDB::Instance(),       &SupportedTreESD::Instance(),
+        &SupportedTreGeoSDE::Instance(),      &SupportedTreMISC::Instance(),
+        &SupportedTreNSDE::Instance(),        &SupportedTrePIAE::Instance(),
+        &SupportedTreResearchSDE::Instance(), &SupportedTreRPF::Instance(),
+        &SupportedTreRSM::Instance()};
+    return groups;
+}
+
+}  // namespace
+
+const SupportedTREs& SupportedTREs::Instance()
+{
+    static const SupportedTREs registry;
+    return registry;
+}
+
+SupportedTREs::SupportedTREs()
+{
+    for (const SupportedTRE* const group : AllGroups()) {
+        m_tags.insert(m_tags.end(), group->GetAllSupportedTREs().begin(), group->GetAllSupportedTREs().end());
+        m_typeMap.insert(group->GetTRETypeMap().begin(), group->GetTRETypeMap().end());
+    }
+    for (const char* const tag : m_tags) {
+        m_types.push_back(m_typeMap.at(tag));
+    }
+}
+
+const std::vector<const SupportedTreGroup*>& SupportedTREs::GetGroups()
+{
+    static const std::vector<const SupportedTreGroup*> groups = [] {
+        std::vector<const SupportedTreGroup*> found;
+        for (const SupportedTRE* const group : AllGroups()) {
+            if (const auto* const listed = dynamic_cast<const SupportedTreGroup*>(group); listed != nullptr) {
+                found.push_back(listed);
+            }
+        }
+        return found;
+    }();
+    return groups;
+}
+
+const SupportedTRE* SupportedTREs::GroupOf(SupportedTreFactory::Enum aGroup)
+{
+    switch (aGroup) {
+        case SupportedTreFactory::ASDE:
+            return &SupportedTreASDE::Instance();
+        case SupportedTreFactory::CommercialSDE:
+            return &SupportedTreCommercialSDE::Instance();
+        case SupportedTreFactory::DPPDB:
+            return &SupportedTreDPPDB::Instance();
+        case SupportedTreFactory::ESD:
+            return &SupportedTreESD::Instance();
+        case SupportedTreFactory::NSDE:
+        case SupportedTreFactory::NSDESecond:
+            return &SupportedTreNSDE::Instance();
+        case SupportedTreFactory::GeoSDE:
+            return &SupportedTreGeoSDE::Instance();
+        case SupportedTreFactory::MISC:
+            return &SupportedTreMISC::Instance();
+        case SupportedTreFactory::PIAE:
+            return &SupportedTrePIAE::Instance();
+        case SupportedTreFactory::ResearchSDE:
+            return &SupportedTreResearchSDE::Instance();
+        case SupportedTreFactory::RPF:
+            return &SupportedTreRPF::Instance();
+        case SupportedTreFactory::RSM:
+            return &SupportedTreRSM::Instance();
+        default:
+            return nullptr;
+    }
+}
+
+bool SupportedTREs::AbleToCreateTRE(const char* aTag, SupportedTreFactory::Enum* aGroup) const
+{
+    for (const SupportedTRE* const group : AllGroups()) {
+        if (group->AbleToCreateTRE(aTag, aGroup)) {
+            return true;
+        }
+    }
+    if (aGroup != nullptr) {
+        *aGroup = SupportedTreFactory::UNKNOWN;
+    }
+    return false;
+}
+
+bool SupportedTREs::CloneTRE(const TRE& aSource, TRE** aCopy) const
+{
+    const SupportedTRE* const group = GroupOf(aSource.GetSupportedTREFactoryCode());
+    if (group == nullptr || aCopy == nullptr) {
+        return false;
+    }
+    try {
+        return group->CloneTRE(aSource, aCopy);
+    } catch (...) {  // a special provider may throw anything; the caller learns that there is no copy
+        *aCopy = nullptr;
+        return false;
+    }
+}
+
+bool SupportedTREs::CreateTRE(const char* aTag, const char* aData, TRE** aTre, char** aErrors, std::size_t aLength,
+                              bool aValidate, Util::CSMCnst::ByteOrder aByteOrder,
+                              SupportedTreFactory::Enum aGroup) const
+{
+    const SupportedTRE* const group = GroupOf(aGroup);
+    return group != nullptr && aTre != nullptr &&
+           group->CreateTRE(aTag, aData, aTre, aErrors, aLength, aValidate, aByteOrder, aGroup);
+}
+
+bool SupportedTREs::Destroy(TRE** aTre) const
+{
+    if (aTre == nullptr || *aTre == nullptr) {
+        return false;
+    }
+    const SupportedTRE* const group = GroupOf((*aTre)->GetSupportedTREFactoryCode());
+    return group != nullptr && group->Destroy(aTre);
+}
+
+const std::vector<const char*>& SupportedTREs::GetAllSupportedTREs() const
+{
+    return m_tags;
+}
+
+TRE::Type SupportedTREs::GetTREType(const char* aTag) const
+{
+    return GetTreFieldType(aTag);
+}
+
+const SupportedTRE::TypeMap& SupportedTREs::GetTRETypeMap() const
+{
+    return m_typeMap;
+}
+
+void SupportedTREs::GetTRETypes(const char**& aTags, const TRE::Type*& aTypes, std::size_t& aCount) const
+{
+    aTags = const_cast<const char**>(m_tags.data());
+    aTypes = m_types.data();
+    aCount = m_tags.size();
+}
+
+TRE::Type SupportedTREs::GetTreFieldType(const char* aTag)
+{
+    for (const SupportedTRE* const group : AllGroups()) {
+        const TRE::Type type = group->GetTREType(aTag);
+        if (type != TRE::TRE_TYPE_UNKNOWN) {
+            return type;
+        }
+    }
+    return TRE::TRE_TYPE_UNKNOWN;
+}
+
+const char* SupportedTREs::GetGroupDescription(const char* aTag)
+{
+    for (const SupportedTreGroup* const group : GetGroups()) {
+        if (group->FindEntry(Detail::Trimmed(aTag)) != nullptr) {
+            return group->GetDescription();
+        }
+    }
+    return NITFCnst::TRE_TYPE_UNKNOWN;
+}
+
+bool TRE::GetNamesOfAllSupportedTREs(const char**& aNames, std::size_t& aCount)
+{
+    const auto& tags = SupportedTREs::Instance().GetAllSupportedTREs();
+    aCount = tags.size();
+    aNames = new const char*[aCount];
+    for (std::size_t i = 0; i != aCount; ++i) {
+        aNames[i] = tags[i];
+    }
+    return true;
+}
+
+std::size_t TRE::GetNumOfSupportedTREs()
+{
+    return SupportedTREs::Instance().GetAllSupportedTREs().size();
+}
+
+const char* TRE::IsSupportedTRE(const char* aTag, bool aTypedOnly)
+{
+    for (const SupportedTreGroup* const group : SupportedTREs::GetGroups()) {
+        const Detail::TreEntry* const entry = group->FindEntry(Detail::Trimmed(aTag));
+        if (entry != nullptr) {
+            return !aTypedOnly || entry->IsTyped() ? entry->tag : nullptr;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace ORMO::SensorModel::CSM

@@ -1,0 +1,24 @@
+#include "tre/TreLayout.h"
+#include "tre/tags/TreTags.h"
+
+namespace ORMO::SensorModel::CSM {
+
+// No table of this first version is public; programs read it as its successor, and so do we.
+const Detail::TreLayout& TreICHIPA::Layout()
+{
+    static const Detail::TreLayout LAYOUT{
+        .tag = "ICHIPA",
+        .name = "Image Chip (superseded by ICHIPB)",
+        .length = TreICHIPB::Layout().length,
+        .lengthRule = "",
+        .placement = "image subheader",
+        .purpose =
+            "Ties the four corner grid points of an image chip to their places in the full image, so that "
+            "support data of the full image can be used with the chip. First version, superseded by ICHIPB.",
+        .sources = "GDAL NITF reader, which reads it by the layout of ICHIPB; the sources of ICHIPB",
+        .certainty = Detail::LayoutCertainty::OneSource,
+        .table = TreICHIPB::Layout().table};
+    return LAYOUT;
+}
+
+}  // namespace ORMO::SensorModel::CSM
