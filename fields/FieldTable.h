@@ -194,7 +194,7 @@ constexpr bool IsComplete(const FieldRow& aRow) noexcept
         case RowKind::Field:
             return named && (aRow.width != 0 || aRow.sizeTag != nullptr || aRow.count != nullptr || aRow.rest);
         case RowKind::Repeat:
-            return named || aRow.number != 0 || aRow.count != nullptr;
+            return aRow.number <= MOST_TIMES && (named || aRow.number != 0 || aRow.count != nullptr);
         case RowKind::When:
             return named || aRow.condition != nullptr;
         case RowKind::End:
@@ -242,7 +242,6 @@ constexpr void MeasureGroups(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable
                 ++fields;
             } else if (row.IsGroup()) {
                 if (row.kind == RowKind::Repeat && row.number != 0) {
-                    aTable.wellFormed = aTable.wellFormed && row.number <= MOST_TIMES;
                     least += std::min(row.number, MOST_TIMES) * aTable.links[i].least;
                     fields += std::min(row.number, MOST_TIMES) * aTable.links[i].fields;
                 }

@@ -204,9 +204,10 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
     }
     // Refused before looping: the smallest possible body must fit `count` times into what is left. A count that the
     // table itself states is no claim of the data: there the first missing field tells more.
+    const bool isClaimed = m_table.Row(aRow).number == 0;
     const std::uint64_t least = LeastNow(aRow, aRow);
     const std::uint64_t wanted = Product(least, count);
-    if (wanted > m_cursor.Remaining() && m_table.Row(aRow).number == 0) {
+    if (isClaimed && wanted > m_cursor.Remaining()) {
         return FailAtReference(Fault::CountBeyondData, aRow, wanted);
     }
     const RowLink& link = m_table.Link(aRow);
@@ -228,7 +229,8 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
                 break;  // nothing was read, so every further turn would find the same
             }
             // The second bound is for nested loops, whose few empty turns would multiply.
-            if (++emptyTurns > MOST_EMPTY_TURNS || ++m_emptyTurns > MOST_EMPTY_TURNS + m_context.BytesRead()) {
+            if (isClaimed &&
+                (++emptyTurns > MOST_EMPTY_TURNS || ++m_emptyTurns > MOST_EMPTY_TURNS + m_context.BytesRead())) {
                 return FailAtReference(Fault::CountBeyondData, aRow, count);
             }
         }
