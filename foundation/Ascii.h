@@ -50,4 +50,9 @@ constexpr std::string_view ViewOf(const char* aText) noexcept
 {
     return aText == nullptr ? std::string_view{} : std::string_view{aText};
 }
+
+constexpr std::string_view Trimmed(const char* aText) noexcept
+{
+    return Trimmed(ViewOf(aText));
+}
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -3,6 +3,7 @@
 #include "fields/FieldTable.h"
 #include "fields/FieldWalk.h"
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "nitf/SegmentLimits.h"
 #include "segments/SecurityRows.h"
@@ -157,7 +158,7 @@ const Detail::FieldTable& NITF20FileHeader::Table() noexcept
 
 bool NITF20FileHeader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::TrimWhite(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
 const Detail::SegmentWords& NITF20FileHeader::Words() const

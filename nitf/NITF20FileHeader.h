@@ -18,6 +18,9 @@ public:
                      bool aSpecificOnly = false);
     NITF20FileHeader(const NITF20FileHeader& aOther);
     ~NITF20FileHeader() override;
+    using NITFFileHeader::operator=;
+    using NITFFileHeader::operator==;
+    using NITFFileHeader::operator!=;
     NITF20FileHeader& operator=(const NITF20FileHeader& aOther);
     bool operator==(const NITF20FileHeader& aOther) const { return NITFFileHeader::operator==(aOther); }
     bool operator!=(const NITF20FileHeader& aOther) const { return !(*this == aOther); }

@@ -2,6 +2,7 @@
 
 #include "fields/FieldTable.h"
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
 #include "segments/SegmentContents.h"
 
@@ -133,7 +134,7 @@ const Detail::FieldTable& NITF20ImageSubheader::Table() noexcept
 
 bool NITF20ImageSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::TrimWhite(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
 const Detail::SegmentWords& NITF20ImageSubheader::Words() const

@@ -17,6 +17,9 @@ public:
                          Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly = false);
     NITF20ImageSubheader(const NITF20ImageSubheader& aOther);
     ~NITF20ImageSubheader() override;
+    using NITFImageSubheader::operator=;
+    using NITFImageSubheader::operator==;
+    using NITFImageSubheader::operator!=;
     NITF20ImageSubheader& operator=(const NITF20ImageSubheader& aOther);
     bool operator==(const NITF20ImageSubheader& aOther) const { return NITFImageSubheader::operator==(aOther); }
     bool operator!=(const NITF20ImageSubheader& aOther) const { return !(*this == aOther); }

@@ -18,6 +18,9 @@ public:
                      bool aSpecificOnly = false);
     NITF21FileHeader(const NITF21FileHeader& aOther);
     ~NITF21FileHeader() override;
+    using NITFFileHeader::operator=;
+    using NITFFileHeader::operator==;
+    using NITFFileHeader::operator!=;
     NITF21FileHeader& operator=(const NITF21FileHeader& aOther);
     bool operator==(const NITF21FileHeader& aOther) const { return NITFFileHeader::operator==(aOther); }
     bool operator!=(const NITF21FileHeader& aOther) const { return !(*this == aOther); }

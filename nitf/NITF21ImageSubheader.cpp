@@ -3,6 +3,7 @@
 #include "fields/FieldTable.h"
 #include "fields/FieldWalk.h"
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
 #include "segments/SegmentContents.h"
 
@@ -144,7 +145,7 @@ const Detail::FieldTable& NITF21ImageSubheader::Table() noexcept
 
 bool NITF21ImageSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::TrimWhite(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
 const Detail::SegmentWords& NITF21ImageSubheader::Words() const

@@ -17,6 +17,9 @@ public:
                          Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly = false);
     NITF21ImageSubheader(const NITF21ImageSubheader& aOther);
     ~NITF21ImageSubheader() override;
+    using NITFImageSubheader::operator=;
+    using NITFImageSubheader::operator==;
+    using NITFImageSubheader::operator!=;
     NITF21ImageSubheader& operator=(const NITF21ImageSubheader& aOther);
     bool operator==(const NITF21ImageSubheader& aOther) const { return NITFImageSubheader::operator==(aOther); }
     bool operator!=(const NITF21ImageSubheader& aOther) const { return !(*this == aOther); }

@@ -4,6 +4,7 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/Xml.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "nitf/SegmentLimits.h"
@@ -226,7 +227,7 @@ std::uint64_t NITFFileHeader::GetFileHeaderLength() const noexcept
 
 const char* NITFFileHeader::GetFileHeaderField(const char* aTag) const noexcept
 {
-    return FieldText(Detail::TrimWhite(aTag)).data();
+    return FieldText(Detail::Trimmed(aTag)).data();
 }
 
 bool NITFFileHeader::GetFieldValueCLEVEL(int& aLevel) const noexcept
@@ -359,7 +360,7 @@ std::string NITFFileHeader::Xml(const std::string& aIndent) const
 {
     std::string xml = aIndent + "<" + NITFCnst::XML_ELEMENT_NITF_FILE_HEADER + ">\n";
     AppendFieldElements(xml);
-    AppendTREElements(xml, GetFileSecurityClassification());
+    AppendTREElements(xml);
     xml += aIndent + "</" + NITFCnst::XML_ELEMENT_NITF_FILE_HEADER + ">\n";
     return xml;
 }

@@ -101,6 +101,7 @@ protected:
                    const Detail::FieldTable& aTable);
     NITFFileHeader(const NITFFileHeader& aOther);
 
+    using NITFFieldSegment::operator=;
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
     std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;

@@ -4,6 +4,7 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/Xml.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
@@ -129,7 +130,7 @@ const char* NITFImageSubheader::GetImageSubheader(long& aLength) const noexcept
 
 const char* NITFImageSubheader::GetImageSegmentField(const char* aTag) const noexcept
 {
-    return FieldText(Detail::TrimWhite(aTag)).data();
+    return FieldText(Detail::Trimmed(aTag)).data();
 }
 
 unsigned long NITFImageSubheader::GetNumOfImageBands() const noexcept
@@ -168,7 +169,7 @@ std::string NITFImageSubheader::Xml(const std::string& aIndent, int aIndex) cons
     Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_INDEX, std::to_string(aIndex), xml);
     xml += ">\n";
     AppendFieldElements(xml);
-    AppendTREElements(xml, GetImageSegmentSecurityClassification());
+    AppendTREElements(xml);
     xml += aIndent + "</" + NITFCnst::XML_ELEMENT_IMAGE_SEGMENT + ">\n";
     return xml;
 }

@@ -50,6 +50,7 @@ protected:
     NITFImageSubheader(const char* aVersionText, const Detail::FieldTable& aTable);
     NITFImageSubheader(const NITFImageSubheader& aOther);
 
+    using NITFFieldSegment::operator=;
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
     std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;

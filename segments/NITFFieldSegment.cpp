@@ -5,6 +5,7 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilGeneric.h"
@@ -280,10 +281,10 @@ const TRE* NITFFieldSegment::FirstTRE(std::string_view aTag) const
 std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aTreTag, bool aText)
 {
     ClearMessages();
-    const std::string_view name = Detail::TrimWhite(aName);
+    const std::string_view name = Detail::Trimmed(aName);
     if (name.empty()) {
         const Detail::SegmentWords& words = Words();
-        AddError(!Detail::TrimWhite(aTreTag).empty() ? words.emptyTreName
+        AddError(!Detail::Trimmed(aTreTag).empty() ? words.emptyTreName
                  : aText                             ? words.emptyTextName
                                                      : words.emptyName);
     }
@@ -299,7 +300,7 @@ bool NITFFieldSegment::GetFieldAsString(const char* aName, const char*& aValue, 
     if (name.empty()) {
         return false;
     }
-    const std::string_view tag = Detail::TrimWhite(aTreTag);
+    const std::string_view tag = Detail::Trimmed(aTreTag);
     if (!tag.empty()) {
         const TRE* const tre = FirstTRE(tag);
         if (tre != nullptr && tre->GetFieldAsString(aName, aValue, aLength)) {
@@ -324,14 +325,14 @@ bool NITFFieldSegment::GetFieldAsBinary(const char* aName, const char*& aValue, 
     if (!GetFieldAsString(aName, aValue, aLength, aTreTag)) {
         return false;
     }
-    const std::string_view tag = Detail::TrimWhite(aTreTag);
+    const std::string_view tag = Detail::Trimmed(aTreTag);
     const TRE* const tre = tag.empty() ? nullptr : FirstTRE(tag);
     if (tre != nullptr ? tre->IsBinaryField(aName) : IsBinaryField(aName)) {
         return true;
     }
     aValue = nullptr;
     aLength = 0;
-    AddError("ERROR: Data type of " + Quoted(Detail::TrimWhite(aName)) + " is not binary.");
+    AddError("ERROR: Data type of " + Quoted(Detail::Trimmed(aName)) + " is not binary.");
     return false;
 }
 
@@ -358,7 +359,7 @@ bool NITFFieldSegment::Number(const char* aName, Value& aValue, const char* aTre
     if (name.empty()) {
         return false;
     }
-    const std::string_view tag = Detail::TrimWhite(aTreTag);
+    const std::string_view tag = Detail::Trimmed(aTreTag);
     if (!tag.empty()) {
         const TRE* const tre = FirstTRE(tag);
         if (tre != nullptr && aOfTre(*tre, aValue)) {
@@ -450,7 +451,7 @@ Util::CSMCnst::DataType NITFFieldSegment::GetFieldValueDataType(const char* aNam
 {
     Detail::Turns turns{};
     const FieldTable& table = GetFieldTable();
-    const std::string_view name = Detail::TrimWhite(aName);
+    const std::string_view name = Detail::Trimmed(aName);
     std::uint16_t row = table.Resolve(name, turns);
     row = row == Detail::NO_ROW ? table.FindAny(name) : row;
     return row == Detail::NO_ROW ? Util::CSMCnst::DATA_TYPE_UNKNOWN : Detail::DataTypeOf(table.Row(row));
@@ -460,7 +461,7 @@ int NITFFieldSegment::IsFieldValueInRange(const char* aName, const char* aValue)
 {
     Detail::Turns turns{};
     const FieldTable& table = GetFieldTable();
-    const std::string_view name = Detail::TrimWhite(aName);
+    const std::string_view name = Detail::Trimmed(aName);
     std::uint16_t row = table.Resolve(name, turns);
     row = row == Detail::NO_ROW ? table.FindAny(name) : row;
     if (row == Detail::NO_ROW || aValue == nullptr) {
@@ -471,24 +472,24 @@ int NITFFieldSegment::IsFieldValueInRange(const char* aName, const char* aValue)
 
 bool NITFFieldSegment::IsBinaryField(const char* aName) const
 {
-    const FieldEntry* const entry = m_contents->fields.Find(Detail::TrimWhite(aName));
+    const FieldEntry* const entry = m_contents->fields.Find(Detail::Trimmed(aName));
     return entry != nullptr && m_contents->fields.Row(*entry).IsBinary();
 }
 
 bool NITFFieldSegment::IsFieldEditable(const char* aName, const char* aTreTag) const
 {
-    const std::string_view tag = Detail::TrimWhite(aTreTag);
+    const std::string_view tag = Detail::Trimmed(aTreTag);
     if (!tag.empty()) {
         const TRE* const tre = FirstTRE(tag);
         return tre != nullptr && tre->IsFieldEditable(aName);
     }
-    const FieldEntry* const entry = m_contents->fields.Find(Detail::TrimWhite(aName));
+    const FieldEntry* const entry = m_contents->fields.Find(Detail::Trimmed(aName));
     return entry != nullptr && GetFieldTable().IsEditable(entry->row);
 }
 
 bool NITFFieldSegment::IsTREOfThisDataSegment(const char* aTag) const
 {
-    return !Detail::TrimWhite(aTag).empty() && FirstTRE(Detail::TrimWhite(aTag)) != nullptr;
+    return !Detail::Trimmed(aTag).empty() && FirstTRE(Detail::Trimmed(aTag)) != nullptr;
 }
 
 bool NITFFieldSegment::GetTRE(const char* aTag, const TRE**& aArray, std::size_t& aCount, bool aIncludeOverflow) const

@@ -70,6 +70,8 @@ public:
     bool GetFieldsMetadata(const FieldTexts*& aEditability, const FieldLengths*& aLengths, const FieldTypes*& aTypes,
                            const std::vector<const char*>*& aDescriptions, const std::vector<const char*>*& aTags,
                            int& aVersion) const;
+    /// The security classification letter of the header (FSCLAS, ISCLAS, DECLAS ...); empty when it was not read.
+    const char* GetClassification() const noexcept;
     /// The header's bytes as read.
     const char* GetRawHeader(std::size_t& aLength) const noexcept;
     /// The TREs of the extension areas; overflow TREs stand apart.
@@ -81,6 +83,7 @@ protected:
     NITFFieldSegment(const char* aVersionText, NITFCnst::DataSegmentType aKind, const Detail::FieldTable& aTable);
     NITFFieldSegment(const NITFFieldSegment& aOther);
 
+    using NITFStdDataSegment::operator=;
     bool operator==(const NITFStdDataSegment& aOther) const override;
     void Assign(const NITFStdDataSegment& aOther) override;
     bool CloneObj(const NITFStdDataSegment& aOther) override;
@@ -107,7 +110,7 @@ protected:
     /// The header with its TREs as raw metadata.
     std::unique_ptr<RawNITFMetadataStdDataSegment> MakeRawMetadata() const;
     void AppendFieldElements(std::string& aXml) const;
-    void AppendTREElements(std::string& aXml, const char* aClassification) const;
+    void AppendTREElements(std::string& aXml) const;
 
     Detail::SegmentContents& Contents() noexcept { return *m_contents; }
     const Detail::SegmentContents& Contents() const noexcept { return *m_contents; }

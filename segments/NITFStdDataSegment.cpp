@@ -2,6 +2,7 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "tre/TREFactory.h"
@@ -47,7 +48,7 @@ const char* NITFStdDataSegment::GetDataSegmentName(NITFCnst::DataSegmentType aTy
 
 NITFCnst::DataSegmentType NITFStdDataSegment::GetDataSegmentCode(const char* aName) noexcept
 {
-    const std::string_view name = Detail::TrimWhite(aName);
+    const std::string_view name = Detail::Trimmed(aName);
     const auto* const it = std::find_if(KIND_NAMES.begin(), KIND_NAMES.end(),
                                         [name](const KindName& aKind) { return name == aKind.name; });
     return it == KIND_NAMES.end() ? NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN : it->kind;
@@ -84,7 +85,7 @@ void NITFStdDataSegment::DeleteCharBuffer(char** aBuffer) noexcept
 }
 
 NITFStdDataSegment::NITFStdDataSegment(const char* aVersionText, NITFCnst::DataSegmentType aKind)
-    : m_versionText(Detail::TrimWhite(aVersionText)), m_kind(aKind)
+    : m_versionText(Detail::Trimmed(aVersionText)), m_kind(aKind)
 {
     if (m_versionText.empty()) {
         throw InitializationException("ERROR: NULL/empty input NITF file version string.",
@@ -120,7 +121,7 @@ void NITFStdDataSegment::GetCCSOffsetValues(long& aColumn, long& aRow) const noe
 
 bool NITFStdDataSegment::IsNITFDataSegmentFieldEditable(const char* aName) const
 {
-    const std::string_view name = Detail::TrimWhite(aName);
+    const std::string_view name = Detail::Trimmed(aName);
     const FieldTexts* const map = name.empty() ? nullptr : GetFieldEditabilityMap();
     if (map == nullptr) {
         return false;
@@ -227,7 +228,7 @@ bool NITFStdDataSegment::GetTRE(const char* aTag, const TRE**& aArray, std::size
 {
     aArray = nullptr;
     aCount = 0;
-    if (!aIncludeOverflow || m_overflow.IsEmpty() || Detail::TrimWhite(aTag).empty()) {
+    if (!aIncludeOverflow || m_overflow.IsEmpty() || Detail::Trimmed(aTag).empty()) {
         return true;
     }
     return RetrieveTREs(m_overflow, aTag, aArray, aCount);

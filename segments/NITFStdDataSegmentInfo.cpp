@@ -2,6 +2,7 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "segments/NITFStdDataSegment.h"
 
 #include <string_view>
@@ -87,7 +88,7 @@ bool NITFStdDataSegmentInfo::SetSegmentHeaderSize(std::uint32_t aBytes) noexcept
 
 bool NITFStdDataSegmentInfo::SetSegmentType(const char* aType, NITFCnst::Version aVersion)
 {
-    const std::string_view type = Detail::TrimWhite(aType);
+    const std::string_view type = Detail::Trimmed(aType);
     if (type.size() != TYPE_LENGTH || !IsKnownVersion(aVersion)) {
         return false;
     }
@@ -160,7 +161,7 @@ bool NITFStdDataSegmentInfos::Build(NITFCnst::Version aVersion, std::uint64_t aH
 
 const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(const char* aKindName) const
 {
-    const auto it = m_byKind.find(std::string(Detail::TrimWhite(aKindName)));
+    const auto it = m_byKind.find(std::string(Detail::Trimmed(aKindName)));
     return it == m_byKind.end() ? nullptr : &it->second;
 }
 

@@ -1,6 +1,7 @@
 #include "tre/SupportedTREs.h"
 
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "nitf/NITFCnst.h"
 #include "tre/TreMaker.h"
 #include "tre/groups/SupportedTreGroups.h"
@@ -170,7 +171,7 @@ TRE::Type SupportedTREs::GetTreFieldType(const char* aTag)
 const char* SupportedTREs::GetGroupDescription(const char* aTag)
 {
     for (const SupportedTreGroup* const group : GetGroups()) {
-        if (group->FindEntry(Detail::TrimWhite(aTag)) != nullptr) {
+        if (group->FindEntry(Detail::Trimmed(aTag)) != nullptr) {
             return group->GetDescription();
         }
     }
@@ -196,7 +197,7 @@ std::size_t TRE::GetNumOfSupportedTREs()
 const char* TRE::IsSupportedTRE(const char* aTag, bool aTypedOnly)
 {
     for (const SupportedTreGroup* const group : SupportedTREs::GetGroups()) {
-        const Detail::TreEntry* const entry = group->FindEntry(Detail::TrimWhite(aTag));
+        const Detail::TreEntry* const entry = group->FindEntry(Detail::Trimmed(aTag));
         if (entry != nullptr) {
             return !aTypedOnly || entry->IsTyped() ? entry->tag : nullptr;
         }

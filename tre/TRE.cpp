@@ -6,6 +6,7 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilGeneric.h"
@@ -44,7 +45,7 @@ const FieldEntry* FindField(const FieldStore* aFields, const char* aName)
     if (aFields == nullptr || aName == nullptr) {
         return nullptr;
     }
-    return aFields->Find(Detail::TrimWhite(aName));
+    return aFields->Find(Detail::Trimmed(aName));
 }
 
 /// What a walk that stopped has to say: which field, its bytes, what it wanted and what was there.

@@ -2,6 +2,7 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "tre/SupportedTREs.h"
@@ -251,7 +252,7 @@ void TREFactory::Create(const char* aTag, const char* aData, TRE::Type aType, TR
         throw std::invalid_argument("ERROR: Empty/NULL input CEDATA/REDATA string.");
     }
     *aTre = nullptr;
-    const std::string tag(Detail::TrimWhite(aTag));
+    const std::string tag(Detail::Trimmed(aTag));
     if (tag.empty()) {
         throw std::invalid_argument("ERROR: Input CETAG/RETAG cannot be NULL or an empty string.");
     }

@@ -1,6 +1,7 @@
 #include "tre/TREStore.h"
 
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "tre/TREFactory.h"
 
@@ -60,7 +61,7 @@ bool TREStore::Add(TRE* aTre)
 
 const std::vector<TRE*>* TREStore::Find(const char* aTag) const
 {
-    const std::string tag(Detail::TrimWhite(aTag));
+    const std::string tag(Detail::Trimmed(aTag));
     const auto it = m_byTag.find(tag.c_str());
     return it == m_byTag.end() ? nullptr : &it->second;
 }

@@ -4,6 +4,7 @@
 #include "fields/FieldValue.h"
 #include "fields/Number.h"
 #include "fields/Xml.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMUtilString.h"
 #include "nitf/NITFCnst.h"
 #include "tre/RawNITFMetadataTRE.h"
@@ -240,7 +241,7 @@ void TRE::AppendFieldElements(std::string& aXml, const char* aIndent) const
         Detail::AppendXmlAttribute("type", NITFCnst::GetFieldTypeForDisplay(static_cast<NITFCnst::FieldType>(row.need)),
                                    aXml);
         Detail::AppendXmlAttribute("editable", m_fields->Table().IsEditable(entry.row) ? "T" : "F", aXml);
-        Detail::AppendXmlValueAndEnd("TREField", row.IsBinary() ? value : Detail::TrimWhite(value), aXml);
+        Detail::AppendXmlValueAndEnd("TREField", row.IsBinary() ? value : Detail::Trimmed(value), aXml);
     }
 }
 

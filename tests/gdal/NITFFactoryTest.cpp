@@ -1,4 +1,7 @@
+#include "isd/ImageSupportDataNITF.h"
+#include "isd/ImageSupportDataNITFFactory.h"
 #include "nitf/NITFFactory.h"
+#include "tests/support/Corpus.h"
 
 #include <filesystem>
 #include <fstream>
@@ -156,6 +159,50 @@ TEST_F(NITFFactoryTest, RequestAndOutputAreNeeded)
     EXPECT_FALSE(NITFFactory::Open(&unusable, &isd, index, hasImage));
     EXPECT_EQ(Str(NITFFactory::GetErrorMessage()), NO_ARGUMENT);
     EXPECT_EQ(index, -1);
+}
+
+TEST_F(NITFFactoryTest, SubdatasetNameSelectsItsImageSegment)
+{
+    const std::string file = Tests::CorpusFile("U_1123A.NTF").string();
+    if (!std::filesystem::exists(file)) {
+        GTEST_SKIP() << "the corpus is absent";
+    }
+    long unselected = 99;
+    ImageSupportDataNITF* isd = nullptr;
+    ASSERT_TRUE(
+        ImageSupportDataNITFFactory::Create(file.c_str(), &isd, false, false, -1, NITFCnst::NITF_VERSION_NUMBER_20));
+    unselected = isd->GetCurrentImageSegment();
+    ImageSupportDataNITFFactory::Destroy(&isd);
+
+    const std::pair<std::string, long> cases[] = {
+        {file, 0}, {"nitf_im:2:" + file, 2}, {"NITF_IM:4:" + file, 4}, {"NITF_IM:5:" + file, unselected}};
+    for (const auto& [name, segment] : cases) {
+        int index = -1;
+        bool hasImage = false;
+        EXPECT_TRUE(NITFFactory::Open(name.c_str(), &isd, index, hasImage)) << name;
+        EXPECT_TRUE(hasImage) << name;
+        EXPECT_EQ(NITFFactory::GetErrorMessage(), nullptr) << name;
+        ASSERT_NE(isd, nullptr) << name;
+        EXPECT_EQ(isd->GetCurrentImageSegment(), segment) << name;
+        ImageSupportDataNITFFactory::Destroy(&isd);
+    }
+}
+
+TEST_F(NITFFactoryTest, NsifFileWithoutImagesIsOpenedAndSaysSo)
+{
+    const std::string file = Tests::CorpusFile("ns3051v.nsf").string();
+    if (!std::filesystem::exists(file)) {
+        GTEST_SKIP() << "the corpus is absent";
+    }
+    for (const std::string& name : {file, "NITF_IM:0:" + file}) {
+        ImageSupportDataNITF* isd = nullptr;
+        int index = -1;
+        bool hasImage = true;
+        EXPECT_TRUE(NITFFactory::Open(name.c_str(), &isd, index, hasImage)) << name;
+        EXPECT_FALSE(hasImage) << name;
+        EXPECT_EQ(index, 0) << name;
+        ImageSupportDataNITFFactory::Destroy(&isd);
+    }
 }
 
 }  // namespace

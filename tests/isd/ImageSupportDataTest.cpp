@@ -32,8 +32,6 @@ public:
     }
 
     using ImageSupportData::Assign;
-    using ImageSupportData::operator==;
-    using ImageSupportData::operator!=;
     using ImageSupportData::ClearMessages;
     using ImageSupportData::m_classificationLevel;
     using ImageSupportData::m_errorMessage;
@@ -49,6 +47,14 @@ public:
     {
         m_currentImageSegment = aSegment;
         return true;
+    }
+
+    /// Equality as the object itself tells it; both operators must agree.
+    bool Equals(const ImageSupportData& aOther) const
+    {
+        const bool isEqual = ImageSupportData::operator==(aOther);
+        EXPECT_NE(ImageSupportData::operator!=(aOther), isEqual);
+        return isEqual;
     }
 
     std::vector<std::string> markings;
@@ -210,30 +216,30 @@ TEST_F(ImageSupportDataTest, MarkingsAreDistinctInOrderAndCollectedOnce)
 TEST_F(ImageSupportDataTest, EqualityIsThatOfFileFormatClassificationAndSegment)
 {
     const PlainIsd first = Make();
-    EXPECT_TRUE(first == Make());
-    EXPECT_TRUE(first != Make("02.00"));
-    EXPECT_FALSE(first == Make(nullptr));
-    EXPECT_TRUE(Make(nullptr) == Make(nullptr));
-    EXPECT_FALSE(first == PlainIsd(m_path.c_str(), "OSDE", "02.10"));
+    EXPECT_TRUE(first.Equals(Make()));
+    EXPECT_FALSE(first.Equals(Make("02.00")));
+    EXPECT_FALSE(first.Equals(Make(nullptr)));
+    EXPECT_TRUE(Make(nullptr).Equals(Make(nullptr)));
+    EXPECT_FALSE(first.Equals(PlainIsd(m_path.c_str(), "OSDE", "02.10")));
 
     PlainIsd other = Make();
     other.m_errorMessage = "ERROR: x";
     other.m_validationErrorCount = 3;
     other.markings = {"S"};
-    EXPECT_TRUE(first == other);
+    EXPECT_TRUE(first.Equals(other));
     other.SetCurrentImageSegment(1);
-    EXPECT_FALSE(first == other);
+    EXPECT_FALSE(first.Equals(other));
     other = Make();
     other.m_highestMarking = "S";
-    EXPECT_FALSE(first == other);
+    EXPECT_FALSE(first.Equals(other));
     other = Make();
     other.m_classificationLevel = CSMCnst::CLASS_TYPE_SECRET;
-    EXPECT_FALSE(first == other);
+    EXPECT_FALSE(first.Equals(other));
 
     // An object without a file is equal to itself only.
     const PlainIsd empty;
-    EXPECT_TRUE(empty == empty);
-    EXPECT_FALSE(empty == PlainIsd());
+    EXPECT_TRUE(empty.Equals(empty));
+    EXPECT_FALSE(empty.Equals(PlainIsd()));
 }
 
 TEST_F(ImageSupportDataTest, AssignmentAndCopyTakeOverAllButTheMarkingList)
@@ -253,7 +259,7 @@ TEST_F(ImageSupportDataTest, AssignmentAndCopyTakeOverAllButTheMarkingList)
     EXPECT_THAT(target.GetAllSecurityClassificationMarkings(), ElementsAre(StrEq("U")));
     target.markings = {"T"};
     target.Assign(source);
-    EXPECT_TRUE(target == source);
+    EXPECT_TRUE(target.Equals(source));
     EXPECT_THAT(target.GetWarningMessage(), StrEq("WARN: w"));
     EXPECT_THAT(target.GetErrorMessage(), StrEq("ERROR: of the target")) << "the source has none to replace it with";
     EXPECT_THAT(target.GetValidationSummaryReport(), StrEq("report"));
@@ -262,10 +268,10 @@ TEST_F(ImageSupportDataTest, AssignmentAndCopyTakeOverAllButTheMarkingList)
     EXPECT_THAT(target.GetAllSecurityClassificationMarkings(), ElementsAre(StrEq("T"))) << "collected anew";
 
     target.Assign(target);
-    EXPECT_TRUE(target == source);
+    EXPECT_TRUE(target.Equals(source));
 
     const PlainIsd copy(source);
-    EXPECT_TRUE(copy == source);
+    EXPECT_TRUE(copy.Equals(source));
     EXPECT_EQ(copy.GetErrorMessage(), nullptr);
     EXPECT_NE(copy.GetFileName(), source.GetFileName()) << "the copy owns its texts";
 

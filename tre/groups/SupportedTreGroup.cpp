@@ -1,6 +1,7 @@
 #include "tre/groups/SupportedTreGroup.h"
 
 #include "fields/Number.h"
+#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "tre/TreMaker.h"
@@ -12,7 +13,7 @@
 namespace ORMO::SensorModel::CSM {
 
 using Detail::TreEntry;
-using Detail::TrimWhite;
+using Detail::Trimmed;
 
 SupportedTRE::~SupportedTRE() = default;
 
@@ -45,7 +46,7 @@ const TreEntry* SupportedTreGroup::GetEntries(std::size_t& aCount) const noexcep
 
 bool SupportedTreGroup::AbleToCreateTRE(const char* aTag, SupportedTreFactory::Enum* aGroup) const
 {
-    const bool able = FindEntry(TrimWhite(aTag)) != nullptr;
+    const bool able = FindEntry(Trimmed(aTag)) != nullptr;
     if (aGroup != nullptr) {
         *aGroup = able ? m_code : SupportedTreFactory::UNKNOWN;
     }
@@ -73,7 +74,7 @@ bool SupportedTreGroup::CreateTRE(const char* aTag, const char* aData, TRE** aTr
         return false;
     }
     *aTre = nullptr;
-    const std::string_view tag = TrimWhite(aTag);
+    const std::string_view tag = Trimmed(aTag);
     const TreEntry* const entry = FindEntry(tag);
     if (entry == nullptr) {
         const std::string message =
@@ -119,7 +120,7 @@ const std::vector<const char*>& SupportedTreGroup::GetAllSupportedTREs() const
 
 TRE::Type SupportedTreGroup::GetTREType(const char* aTag) const
 {
-    const TreEntry* const entry = FindEntry(TrimWhite(aTag));
+    const TreEntry* const entry = FindEntry(Trimmed(aTag));
     return entry == nullptr ? TRE::TRE_TYPE_UNKNOWN : entry->type;
 }
 

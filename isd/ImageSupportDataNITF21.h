@@ -1,0 +1,43 @@
+#pragma once
+
+#include "isd/ImageSupportDataNITF.h"
+
+namespace ORMO::SensorModel::CSM {
+
+class ImageSupportDataNITFFactory;
+
+/// The image support data of a NITF 2.1 file; NSIF 1.0 files are read as NITF 2.1.
+class ORMO_CSM_API ImageSupportDataNITF21 : public ImageSupportDataNITF
+{
+public:
+    static constexpr int c_NITFVersionNumber = NITFCnst::NITF_VERSION_NUMBER_21;
+
+    ~ImageSupportDataNITF21() override;
+
+protected:
+    std::unique_ptr<NITFFileHeader> CreateNITFFileHeader(const std::string& aRaw, bool aStreaming,
+                                                         bool aSpecificOnly) const override;
+    std::unique_ptr<NITFImageSubheader> CreateNITFImageSubheader(const std::string& aRaw,
+                                                                 const NITFStdDataSegmentInfo& aInfo,
+                                                                 bool aSpecificOnly) const override;
+    std::unique_ptr<NITFTextSubheader> CreateNITFTextSubheader(const std::string& aRaw,
+                                                               const NITFStdDataSegmentInfo& aInfo,
+                                                               bool aSpecificOnly) const override;
+    std::unique_ptr<NITFDESSubheader> CreateNITFDESSubheader(const std::string& aRaw,
+                                                             const NITFStdDataSegmentInfo& aInfo,
+                                                             bool aSpecificOnly) const override;
+    std::unique_ptr<NITFRESSubheader> CreateNITFRESSubheader(const std::string& aRaw,
+                                                             const NITFStdDataSegmentInfo& aInfo,
+                                                             bool aSpecificOnly) const override;
+
+private:
+    friend class ImageSupportDataNITFFactory;
+
+    /// Reads the file. With `aImageSegmentsOnly`, segments behind the images are left out; with `aSpecificOnly`, so are
+    /// TREs without a typed form. `aImageSegment` becomes the current image segment when it is not negative. Raises
+    /// InitializationException and ImageSupportDataConstructionException; warnings are handed out as a new text.
+    ImageSupportDataNITF21(const char* aPath, char** aErrors, char** aWarnings, bool aImageSegmentsOnly,
+                           bool aSpecificOnly, int aImageSegment);
+};
+
+}  // namespace ORMO::SensorModel::CSM

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace OrmoNitf {
+
+// The commands of the program. Each answers its exit code; results go to standard output or the named file, problems to
+// standard error.
+int Info(const std::vector<std::string>& aFiles);
+int Json(const std::vector<std::string>& aFiles);
+int Xml(const std::string& aFile, bool aImagesOnly, const std::string& aOut);
+int Validate(const std::vector<std::string>& aFiles, bool aXml);
+int Describe(const std::string& aTag, const std::string& aField);
+int Extract(const std::string& aFile, const std::string& aKind, unsigned aIndex, const std::string& aOut);
+
+}  // namespace OrmoNitf

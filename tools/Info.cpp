@@ -1,0 +1,157 @@
+#include "tools/Commands.h"
+#include "tools/Isd.h"
+
+#include <iostream>
+#include <sstream>
+#include <string_view>
+
+namespace OrmoNitf {
+
+using namespace ORMO::SensorModel::CSM;
+
+namespace {
+
+std::string_view Trimmed(std::string_view aText)
+{
+    const auto first = aText.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string_view{}
+                                           : aText.substr(first, aText.find_last_not_of(' ') - first + 1);
+}
+
+/// A number without its leading zeros; any other text as it is.
+std::string Plain(std::string_view aText)
+{
+    const std::string_view text = Trimmed(aText);
+    const auto first = text.find_first_not_of('0');
+    const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+    return digits ? (first == std::string_view::npos ? "0" : std::string(text.substr(first))) : std::string(text);
+}
+
+/// Text that a terminal can show: bytes that it could not are left as points.
+std::string Shown(std::string_view aText)
+{
+    std::string text(Trimmed(aText));
+    for (char& character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        character = byte < 0x20 || byte > 0x7E ? '.' : character;
+    }
+    return text;
+}
+
+void Line(std::ostream& aOut, const char* aName, std::string_view aValue)
+{
+    if (!Trimmed(aValue).empty()) {
+        aOut << "  " << aName << ": " << Shown(aValue) << '\n';
+    }
+}
+
+void PrintTREs(std::ostream& aOut, const NITFFieldSegment& aSegment)
+{
+    for (const TREStore* const store : {&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()}) {
+        for (const TRE* const tre : store->InOrder()) {
+            const bool known = !tre->IsGenericTRE();
+            aOut << "    TRE " << Shown(tre->GetTag()) << "  " << (known ? tre->GetTREName() : "(not decoded)") << ", "
+                 << tre->GetLengthOfDataField() << " bytes, " << tre->GetExtensionArea() << '\n';
+        }
+    }
+}
+
+void PrintFootprint(std::ostream& aOut, const NITFImageSubheader& aImage)
+{
+    constexpr std::size_t CORNER = 15;
+    const std::string_view corners = aImage.FieldText("IGEOLO");
+    if (corners.size() != 4 * CORNER) {
+        return;
+    }
+    aOut << "    footprint (ICORDS " << Shown(aImage.FieldText("ICORDS")) << "):";
+    for (std::size_t i = 0; i != 4; ++i) {
+        aOut << (i == 0 ? " " : ", ") << Shown(corners.substr(i * CORNER, CORNER));
+    }
+    aOut << '\n';
+}
+
+void PrintImage(std::ostream& aOut, const NITFImageSubheader& aImage, std::uint64_t aBytes)
+{
+    const bool is21 = aImage.FieldText("IID1").data() != nullptr;
+    const std::string_view comrat = Trimmed(aImage.FieldText("COMRAT"));
+    aOut << "  image " << aImage.GetImageSegmentNumber() << ": " << Plain(aImage.FieldText("NROWS")) << " rows x "
+         << Plain(aImage.FieldText("NCOLS")) << " columns, " << aImage.GetNumOfImageBands() << " band(s), "
+         << Plain(aImage.FieldText("NBPP")) << "-bit " << Shown(aImage.FieldText("PVTYPE")) << ", "
+         << Shown(aImage.FieldText("IREP")) << ", " << Shown(aImage.FieldText("ICAT")) << ", compression "
+         << Shown(aImage.FieldText("IC")) << (comrat.empty() ? "" : " " + Shown(comrat)) << ", " << aBytes
+         << " bytes\n";
+    aOut << "    identifier " << Shown(aImage.FieldText(is21 ? "IID1" : "IID")) << ", date "
+         << Shown(aImage.FieldText("IDATIM")) << ", classification " << Shown(aImage.FieldText("ISCLAS")) << '\n';
+    PrintFootprint(aOut, aImage);
+    PrintTREs(aOut, aImage);
+}
+
+/// A word for a segment that is no image, and what names it best.
+void PrintOther(std::ostream& aOut, const NITFStdDataSegmentInfo& aInfo, const NITFFieldSegment* aSegment)
+{
+    aOut << "  " << NITFStdDataSegment::GetDataSegmentName(aInfo.GetDataSegmentType()) << ' ' << aInfo.GetSegmentIndex()
+         << ": " << aInfo.GetSegmentDataSize() << " bytes";
+    if (aSegment != nullptr) {
+        for (const char* const tag : {"TEXTID", "DESID", "DESTAG", "RESID", "SID", "LID"}) {
+            const std::string_view text = Trimmed(aSegment->FieldText(tag));
+            if (!text.empty()) {
+                aOut << ", " << Shown(text);
+            }
+        }
+    }
+    aOut << '\n';
+    if (aSegment != nullptr) {
+        PrintTREs(aOut, *aSegment);
+    }
+}
+
+void PrintFile(std::ostream& aOut, const std::string& aPath, const ImageSupportDataNITF& aIsd)
+{
+    const NITFFileHeader& header = *aIsd.GetNITFFileHeader();
+    aOut << aPath << ": " << aIsd.GetFileTypeAndVersion() << ", " << aIsd.GetNITFFileSize()
+         << " bytes, complexity level " << Plain(header.FieldText("CLEVEL")) << '\n';
+    Line(aOut, "classification", aIsd.GetHighestSecurityClassificationMarking());
+    Line(aOut, "title", header.FieldText("FTITLE"));
+    Line(aOut, "date", header.FieldText("FDT"));
+    Line(aOut, "station", header.FieldText("OSTAID"));
+    Line(aOut, "originator", header.FieldText("ONAME"));
+    PrintTREs(aOut, header);
+    for (const NITFStdDataSegmentInfo* const info : aIsd.GetSegmentInfos().InFileOrder()) {
+        const auto index = static_cast<std::size_t>(info->GetSegmentIndex());
+        const NITFImageSubheader* const image =
+            info->GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE ? aIsd.GetImageSubheader(index) : nullptr;
+        if (image != nullptr) {
+            PrintImage(aOut, *image, info->GetSegmentDataSize());
+        } else {
+            PrintOther(aOut, *info, aIsd.GetSegment(info->GetDataSegmentType(), index));
+        }
+    }
+    for (const std::string& warning : aIsd.GetWarnings()) {
+        aOut << "  ";
+        for (const char character : warning) {
+            const auto byte = static_cast<unsigned char>(character);
+            aOut << (character == '\n' ? ' ' : byte < 0x20 || byte > 0x7E ? '.' : character);
+        }
+        aOut << '\n';
+    }
+}
+
+}  // namespace
+
+int Info(const std::vector<std::string>& aFiles)
+{
+    int exitCode = EXIT_DONE;
+    for (const std::string& file : aFiles) {
+        const Isd isd = OpenFile(file);
+        if (isd == nullptr) {
+            exitCode = EXIT_WRONG_USE;
+            continue;
+        }
+        std::ostringstream text;
+        PrintFile(text, file, *isd);
+        std::cout << text.str();
+    }
+    return exitCode;
+}
+
+}  // namespace OrmoNitf
