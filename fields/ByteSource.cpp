@@ -18,19 +18,38 @@ std::string SystemReason()
     return std::generic_category().message(errno);
 }
 
+std::string KindReason(const struct stat& aStatus)
+{
+    return S_ISDIR(aStatus.st_mode) ? "Is a directory" : "Is not a regular file";
+}
+
 }  // namespace
 
 std::unique_ptr<ByteSource> ByteSource::Open(const std::string& aPath, std::string& aReason)
 {
-    // Without O_NONBLOCK the open of a FIFO would wait for a writer.
+    if (aPath.find('\0') != std::string::npos) {
+        aReason = "The path holds a zero byte";
+        return nullptr;
+    }
+    // Looked at before it is opened, because opening alone already acts on a FIFO or a device.
+    struct stat status = {};
+    if (::stat(aPath.c_str(), &status) != 0) {
+        aReason = SystemReason();
+        return nullptr;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        aReason = KindReason(status);
+        return nullptr;
+    }
+    // The file may have been exchanged since. Without O_NONBLOCK the open of a FIFO would wait for a writer.
     const int descriptor = ::open(aPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor < 0) {
         aReason = SystemReason();
         return nullptr;
     }
-    struct stat status = {};
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-        aReason = S_ISDIR(status.st_mode) ? "Is a directory" : "Is not a regular file";
+    const bool known = ::fstat(descriptor, &status) == 0;
+    if (!known || !S_ISREG(status.st_mode)) {
+        aReason = known ? KindReason(status) : SystemReason();
         ::close(descriptor);
         return nullptr;
     }

@@ -131,7 +131,8 @@ constexpr FieldRow Field(const char* aTag, std::uint32_t aWidth, Need aNeed, For
     return row;
 }
 
-/// A field whose width is the value of another field plus an adjustment: Sized("UDHD", "UDHDL", -3, ...).
+/// A field whose width is the value of another field plus an adjustment: Sized("UDHD", "UDHDL", -3, ...). A length that
+/// covers only the fields counted along with it, so that nothing is left, means that the field does not stand at all.
 constexpr FieldRow Sized(const char* aTag, const char* aSizeTag, std::int32_t aAdjust, Need aNeed, Form aForm,
                          const char* aValues, const char* aUnit, const char* aLabel,
                          const char* aExplanation = "") noexcept
@@ -179,11 +180,13 @@ constexpr FieldRow Times(std::uint64_t aTimes) noexcept
     return row;
 }
 
-/// The rows up to End() stand as often as a function works out; the label says how.
-constexpr FieldRow RepeatBy(const char* aLabel, CountFunction aCount) noexcept
+/// The rows up to End() stand as often as a function works out; the label says how. The tag, when given, is the field
+/// that a bad count is blamed on.
+constexpr FieldRow RepeatBy(const char* aLabel, CountFunction aCount, const char* aTag = "") noexcept
 {
     FieldRow row;
     row.kind = RowKind::Repeat;
+    row.tag = aTag;
     row.label = aLabel;
     row.count = aCount;
     return row;

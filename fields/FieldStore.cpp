@@ -4,10 +4,16 @@
 
 namespace ORMO::SensorModel::CSM::Detail {
 
+namespace {
+
+constexpr std::uint32_t MOST_BYTES = UINT32_MAX;
+
+}  // namespace
+
 void FieldStore::Begin(std::size_t aBytes)
 {
     Clear();
-    m_arena.reserve(aBytes + m_table.FieldCount());
+    m_arena.reserve(std::min<std::size_t>(aBytes, MOST_BYTES) + m_table.FieldCount());
     m_entries.reserve(m_table.FieldCount());
     m_index.assign(m_table.Size(), 0);
 }
@@ -22,6 +28,12 @@ void FieldStore::Reserve(std::size_t aMoreFields, std::size_t aBytesLeft)
     if (bytes > m_arena.capacity()) {
         m_arena.reserve(bytes);
     }
+}
+
+bool FieldStore::HasRoom(std::uint64_t aBytes) const noexcept
+{
+    const std::uint64_t held = m_arena.size();
+    return held < MOST_BYTES && aBytes < MOST_BYTES - held;
 }
 
 void FieldStore::Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue)
@@ -41,6 +53,12 @@ const FieldEntry* FieldStore::Latest(std::uint16_t aRow) const noexcept
 {
     const std::uint32_t place = m_index[aRow];
     return place == 0 ? nullptr : &m_entries[place - 1];
+}
+
+void FieldStore::Forget(std::size_t aFirst, std::size_t aLast) noexcept
+{
+    std::fill(m_index.begin() + static_cast<std::ptrdiff_t>(aFirst),
+              m_index.begin() + static_cast<std::ptrdiff_t>(aLast), 0U);
 }
 
 void FieldStore::Finish()
@@ -69,17 +87,18 @@ void FieldStore::Clear() noexcept
     m_arena.clear();
     m_entries.clear();
     m_index.clear();
+    m_replaced.clear();
 }
 
 std::uint64_t FieldStore::Position(const FieldEntry& aEntry) const noexcept
 {
-    // One NUL stands behind every value before this one. A replaced value lies behind the next one's; its field took
-    // no bytes of its own, so it begins where the next one does.
-    auto place = static_cast<std::size_t>(&aEntry - m_entries.data());
-    if (place + 1 < m_entries.size() && aEntry.offset > m_entries[place + 1].offset) {
-        ++place;
+    const auto place = static_cast<std::size_t>(&aEntry - m_entries.data());
+    for (const auto& [replaced, position] : m_replaced) {
+        if (replaced == place) {
+            return position;
+        }
     }
-    return m_entries[place].offset - place;
+    return aEntry.offset - place;  // one NUL stands behind every value before this one
 }
 
 std::span<const std::uint32_t> FieldStore::EntriesOf(std::uint16_t aRow) const noexcept
@@ -128,7 +147,13 @@ std::string FieldStore::Name(const FieldEntry& aEntry) const
 
 void FieldStore::Replace(const FieldEntry& aEntry, std::string_view aValue)
 {
-    FieldEntry& entry = m_entries[static_cast<std::size_t>(&aEntry - m_entries.data())];
+    const auto place = static_cast<std::size_t>(&aEntry - m_entries.data());
+    const bool isFirst = std::none_of(m_replaced.begin(), m_replaced.end(),
+                                      [place](const auto& aReplaced) { return aReplaced.first == place; });
+    if (isFirst) {
+        m_replaced.emplace_back(place, Position(aEntry));
+    }
+    FieldEntry& entry = m_entries[place];
     entry.offset = static_cast<std::uint32_t>(m_arena.size());
     entry.length = static_cast<std::uint32_t>(aValue.size());
     m_arena.append(aValue);
@@ -137,7 +162,8 @@ void FieldStore::Replace(const FieldEntry& aEntry, std::string_view aValue)
 
 bool FieldStore::operator==(const FieldStore& aOther) const noexcept
 {
-    return std::equal(m_entries.begin(), m_entries.end(), aOther.m_entries.begin(), aOther.m_entries.end(),
+    return m_table.Rows().data() == aOther.m_table.Rows().data() &&
+           std::equal(m_entries.begin(), m_entries.end(), aOther.m_entries.begin(), aOther.m_entries.end(),
                       [&](const FieldEntry& aLeft, const FieldEntry& aRight) {
                           return aLeft.row == aRight.row && aLeft.turns == aRight.turns &&
                                  Value(aLeft) == aOther.Value(aRight);

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM::Detail {
@@ -37,7 +38,7 @@ public:
     {
         return {m_arena.data() + aEntry.offset, aEntry.length};
     }
-    /// Where the field begins, counted from the first byte of the header or record.
+    /// Where the field was read, counted from the first byte of the header or record; Replace does not change it.
     std::uint64_t Position(const FieldEntry& aEntry) const noexcept;
 
     /// The field of a name ("LON_4_1") or alias, or null.
@@ -55,9 +56,10 @@ public:
     }
 
     /// Gives a field another value of its own, behind the others; used where a standard lays two fields over the same
-    /// bytes.
+    /// bytes. Views of values that were taken before may no longer be used.
     void Replace(const FieldEntry& aEntry, std::string_view aValue);
 
+    /// Whether both hold the same fields of the same table with the same values.
     bool operator==(const FieldStore& aOther) const noexcept;
 
 private:
@@ -66,9 +68,13 @@ private:
 
     void Begin(std::size_t aBytes);
     void Reserve(std::size_t aMoreFields, std::size_t aBytesLeft);
+    /// Whether a value of that many bytes still gets an offset of 32 bits.
+    bool HasRoom(std::uint64_t aBytes) const noexcept;
     void Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue);
     /// The latest entry of a row while the walk goes on.
     const FieldEntry* Latest(std::uint16_t aRow) const noexcept;
+    /// Ends what Latest says of the rows of a loop, which nothing after its last turn may look at.
+    void Forget(std::size_t aFirst, std::size_t aLast) noexcept;
     void Finish();
     void Clear() noexcept;
 
@@ -78,6 +84,8 @@ private:
     // During the walk: the latest entry of each row, plus one. Afterwards: for each row the start of its entries in
     // the second half, which lists the entries row by row.
     std::vector<std::uint32_t> m_index;
+    // Of the few entries with a value from Replace: the place among the entries and the position in the data.
+    std::vector<std::pair<std::size_t, std::uint64_t>> m_replaced;
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -1,49 +1,58 @@
 #include "fields/FieldTable.h"
 
+#include "fields/ValueRule.h"
+
 #include <charconv>
+#include <limits>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
 namespace {
 
 constexpr std::size_t DIGITS_OF_A_TURN = 3;
+constexpr std::size_t MOST_DIGITS_OF_A_TURN = std::numeric_limits<std::uint32_t>::digits10 + 1;
+
+bool ToTurn(std::string_view aDigits, std::uint32_t& aTurn) noexcept
+{
+    const char* const last = aDigits.data() + aDigits.size();
+    const auto [end, error] = std::from_chars(aDigits.data(), last, aTurn);
+    return error == std::errc{} && end == last && aTurn != 0;
+}
 
 /// The number in the last "_n" of a name, which is cut off; false when there is none.
-bool CutTurn(std::string_view& aName, std::uint32_t& aTurn) noexcept
+bool CutUnderscore(std::string_view& aName, std::uint32_t& aTurn) noexcept
 {
     const auto mark = aName.rfind('_');
     if (mark == std::string_view::npos || mark == 0 || mark + 1 == aName.size() || aName[mark + 1] == '0') {
         return false;
     }
-    const char* const last = aName.data() + aName.size();
-    const auto [end, error] = std::from_chars(aName.data() + mark + 1, last, aTurn);
-    if (error != std::errc{} || end != last) {
+    if (!ToTurn(aName.substr(mark + 1), aTurn)) {
         return false;
     }
     aName.remove_suffix(aName.size() - mark);
     return true;
 }
 
-bool CutThreeDigits(std::string_view& aName, std::uint32_t& aTurn) noexcept
+/// The number in the last digits of a name, which are cut off. More than three are written without leading zeros.
+bool CutDigits(std::string_view& aName, std::size_t aDigits, std::uint32_t& aTurn) noexcept
 {
-    if (aName.size() <= DIGITS_OF_A_TURN) {
+    if (aName.size() <= aDigits) {
         return false;
     }
-    const char* const last = aName.data() + aName.size();
-    const auto [end, error] = std::from_chars(last - DIGITS_OF_A_TURN, last, aTurn);
-    if (error != std::errc{} || end != last || aTurn == 0) {
+    const std::string_view digits = aName.substr(aName.size() - aDigits);
+    if ((aDigits > DIGITS_OF_A_TURN && digits.front() == '0') || !ToTurn(digits, aTurn)) {
         return false;
     }
-    aName.remove_suffix(DIGITS_OF_A_TURN);
+    aName.remove_suffix(aDigits);
     return true;
 }
 
-/// A rule that allows exactly one text marks a fixed part of the layout.
-bool IsFixedText(const char* aValues) noexcept
+/// A rule that allows exactly one text, or only blanks, marks a fixed part of the layout.
+bool IsFixedText(std::string_view aRule) noexcept
 {
-    const std::string_view rule(aValues);
-    return !rule.empty() && rule.find_first_of("|{.<") == std::string_view::npos && rule != "any" &&
-           !rule.starts_with("any=");
+    const std::string_view text = WithoutMeaning(NextAlternative(aRule));
+    return aRule.empty() && !text.empty() && text != "any" && text.front() != '{' &&
+           text.find("..") == std::string_view::npos;
 }
 
 }  // namespace
@@ -81,25 +90,33 @@ std::uint16_t FieldTable::FindAny(std::string_view aTag) const noexcept
 std::uint16_t FieldTable::Resolve(std::string_view aName, Turns& aTurns) const noexcept
 {
     aTurns = {};
-    Turns cut{};  // innermost first
-    for (std::size_t depth = 0; depth <= MAX_LOOP_DEPTH; ++depth) {
-        const std::uint16_t row = Find(aName, depth);
-        if (row != NO_ROW) {
-            for (std::size_t i = 0; i != depth; ++i) {
-                aTurns[i] = cut[depth - 1 - i];
-            }
-            return row;
-        }
-        if (depth == MAX_LOOP_DEPTH) {
-            break;
-        }
-        const bool isCut =
-            m_naming == Naming::Underscore ? CutTurn(aName, cut[depth]) : CutThreeDigits(aName, cut[depth]);
-        if (!isCut) {
-            break;
+    return Match(aName, 0, aTurns);
+}
+
+// Cuts one turn after the other off the end until a field of that tag and depth is left. The turns are collected
+// innermost first and put in order at the end.
+std::uint16_t FieldTable::Match(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept
+{
+    std::uint16_t row = Find(aName, aDepth);
+    if (row != NO_ROW) {
+        std::reverse(aCut.begin(), aCut.begin() + static_cast<std::ptrdiff_t>(aDepth));
+        return row;
+    }
+    if (aDepth == MAX_LOOP_DEPTH) {
+        return NO_ROW;
+    }
+    const std::size_t most = m_naming == Naming::Underscore ? DIGITS_OF_A_TURN : MOST_DIGITS_OF_A_TURN;
+    for (std::size_t digits = DIGITS_OF_A_TURN; row == NO_ROW && digits <= most; ++digits) {
+        std::string_view rest = aName;
+        std::uint32_t& turn = aCut[aDepth];
+        if (m_naming == Naming::Underscore ? CutUnderscore(rest, turn) : CutDigits(rest, digits, turn)) {
+            row = Match(rest, aDepth + 1, aCut);
         }
     }
-    return NO_ROW;
+    if (row == NO_ROW) {
+        aCut[aDepth] = 0;
+    }
+    return row;
 }
 
 void FieldTable::AppendName(std::uint16_t aRow, const Turns& aTurns, std::string& aOut) const
@@ -121,6 +138,25 @@ bool FieldTable::IsEditable(std::uint16_t aRow) const noexcept
     const FieldRow& row = m_rows[aRow];
     const bool data = row.IsBinary() || row.form == Form::Records || row.form == Form::FileProfile;
     return !row.locked && !data && !m_links[aRow].structural && !IsFixedText(row.values);
+}
+
+bool WidthRange(const FieldTable& aTable, std::string_view aTag, std::size_t& aSmallest, std::size_t& aLargest) noexcept
+{
+    const std::uint16_t index = aTable.FindAny(aTag);
+    if (index == NO_ROW) {
+        return false;
+    }
+    const FieldRow& row = aTable.Row(index);
+    aSmallest = row.width;
+    aLargest = row.width;
+    if (row.width == 0 && row.sizeTag != nullptr) {
+        aLargest = 1;
+        for (std::uint32_t digit = 0; digit != aTable.Row(aTable.Link(index).ref).width; ++digit) {
+            aLargest *= 10;
+        }
+        aLargest -= 1 + static_cast<std::size_t>(row.sizeAdjust < 0 ? -row.sizeAdjust : 0);
+    }
+    return true;
 }
 
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -14,6 +14,8 @@ namespace ORMO::SensorModel::CSM::Detail {
 
 /// The deepest nesting of repeats that a table may have.
 constexpr std::size_t MAX_LOOP_DEPTH = 3;
+/// The most turns that a table itself may state; counts in the data have no such bound.
+constexpr std::uint64_t MOST_TIMES = 0xFFFF;
 /// "No such row."
 constexpr std::uint16_t NO_ROW = 0xFFFF;
 /// Turn numbers of the loops around a field, counted from 1; 0 where there is no loop.
@@ -33,7 +35,7 @@ struct RowLink
     std::uint16_t ref = NO_ROW;  ///< the field that a mark or a Sized field looks at
     std::uint8_t depth = 0;      ///< number of repeats around the row
     bool structural = false;     ///< another row looks at this field
-    std::uint32_t least = 0;     ///< of a group: the smallest number of bytes that one turn can take
+    std::uint32_t least = 0;     ///< of a group: bytes of the fixed fields in one turn, conditions left out
     std::uint32_t fields = 0;    ///< of a group: the number of plain fields in one turn, conditions left out
 };
 
@@ -68,6 +70,8 @@ public:
     bool IsEditable(std::uint16_t aRow) const noexcept;
 
 private:
+    std::uint16_t Match(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept;
+
     const FieldRow* m_rows = nullptr;
     const RowLink* m_links = nullptr;
     const std::uint16_t* m_byTag = nullptr;  // field rows only, by tag, then by depth
@@ -104,6 +108,11 @@ constexpr std::uint64_t FixedWidth(const FieldRow (&aRows)[N])
     }
     return sum;
 }
+
+/// The smallest and largest width of a base tag's field; false for an unknown tag. A width given by another field goes
+/// up to the largest number that the field can hold.
+[[nodiscard]] bool WidthRange(const FieldTable& aTable, std::string_view aTag, std::size_t& aSmallest,
+                              std::size_t& aLargest) noexcept;
 
 /// A table with its links, computed from the rows at compile time.
 template<std::size_t N>
@@ -162,6 +171,38 @@ constexpr std::uint16_t FieldBefore(const FieldRow (&aRows)[N], std::size_t aRow
     return NO_ROW;
 }
 
+/// Whether a repeat that holds the earlier row ends before the later one, so that the later one cannot tell in which
+/// turn of it to look.
+template<std::size_t N>
+constexpr bool IsInClosedRepeat(const FieldRow (&aRows)[N], const FieldTableOf<N>& aTable, std::size_t aEarlier,
+                                std::size_t aLater)
+{
+    for (std::size_t i = 0; i != aEarlier; ++i) {
+        const std::size_t end = aTable.links[i].end;
+        if (aRows[i].kind == RowKind::Repeat && aEarlier < end && end < aLater) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Whether a field has a width, a repeat a count and a condition something to look at.
+constexpr bool IsComplete(const FieldRow& aRow) noexcept
+{
+    const bool named = aRow.tag[0] != '\0';
+    switch (aRow.kind) {
+        case RowKind::Field:
+            return named && (aRow.width != 0 || aRow.sizeTag != nullptr || aRow.count != nullptr || aRow.rest);
+        case RowKind::Repeat:
+            return named || aRow.number != 0 || aRow.count != nullptr;
+        case RowKind::When:
+            return named || aRow.condition != nullptr;
+        case RowKind::End:
+            break;
+    }
+    return true;
+}
+
 template<std::size_t N>
 constexpr void LinkReferences(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
 {
@@ -173,16 +214,13 @@ constexpr void LinkReferences(const FieldRow (&aRows)[N], FieldTableOf<N>& aTabl
         if (!wanted.empty()) {
             const std::uint16_t ref = FieldBefore(aRows, i, wanted);
             aTable.links[i].ref = ref;
-            if (ref == NO_ROW) {
+            if (ref == NO_ROW || IsInClosedRepeat(aRows, aTable, ref, i)) {
                 aTable.wellFormed = false;
             } else {
                 aTable.links[ref].structural = true;
             }
         }
-        if (row.IsField()) {
-            const bool sized = row.width != 0 || row.sizeTag != nullptr || row.count != nullptr || row.rest;
-            aTable.wellFormed = aTable.wellFormed && sized && row.tag[0] != '\0';
-        }
+        aTable.wellFormed = aTable.wellFormed && IsComplete(row);
     }
 }
 
@@ -195,19 +233,25 @@ constexpr void MeasureGroups(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable
             continue;
         }
         RowLink& link = aTable.links[start];
+        std::uint64_t least = 0;
+        std::uint64_t fields = 0;
         for (std::size_t i = start + 1; i < link.end; ++i) {
             const FieldRow& row = aRows[i];
             if (row.IsField()) {
-                link.least += row.width;
-                ++link.fields;
+                least += row.width;
+                ++fields;
             } else if (row.IsGroup()) {
                 if (row.kind == RowKind::Repeat && row.number != 0) {
-                    link.least += static_cast<std::uint32_t>(row.number) * aTable.links[i].least;
-                    link.fields += static_cast<std::uint32_t>(row.number) * aTable.links[i].fields;
+                    aTable.wellFormed = aTable.wellFormed && row.number <= MOST_TIMES;
+                    least += std::min(row.number, MOST_TIMES) * aTable.links[i].least;
+                    fields += std::min(row.number, MOST_TIMES) * aTable.links[i].fields;
                 }
                 i = aTable.links[i].end;
             }
         }
+        aTable.wellFormed = aTable.wellFormed && least <= UINT32_MAX && fields <= UINT32_MAX;
+        link.least = static_cast<std::uint32_t>(least);
+        link.fields = static_cast<std::uint32_t>(fields);
     }
 }
 
@@ -224,11 +268,66 @@ constexpr void OrderByTag(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
         const int order = std::string_view(aRows[a].tag).compare(aRows[b].tag);
         return order != 0 ? order < 0 : aTable.links[a].depth < aTable.links[b].depth;
     });
-    for (std::size_t i = 1; i < aTable.fieldCount; ++i) {
-        const std::uint16_t a = aTable.byTag[i - 1];
-        const std::uint16_t b = aTable.byTag[i];
-        if (std::string_view(aRows[a].tag) == aRows[b].tag && aTable.links[a].depth == aTable.links[b].depth) {
-            aTable.wellFormed = false;  // two fields would get the same name
+}
+
+constexpr bool IsDigit(char aCharacter) noexcept
+{
+    return aCharacter >= '0' && aCharacter <= '9';
+}
+
+/// The tag without a "_n" at its end that looks like a turn; the whole tag when there is none.
+constexpr std::string_view WithoutTurn(std::string_view aTag) noexcept
+{
+    std::size_t digits = aTag.size();
+    while (digits != 0 && IsDigit(aTag[digits - 1])) {
+        --digits;
+    }
+    const bool turn = digits > 1 && digits != aTag.size() && aTag[digits - 1] == '_' && aTag[digits] != '0';
+    return turn ? aTag.substr(0, digits - 1) : aTag;
+}
+
+/// Whether some turns of the field of the shorter tag would print the longer tag, or the longer tag with turns.
+constexpr bool NamesMeet(std::string_view aShort, std::size_t aShortDepth, std::string_view aLong,
+                         std::size_t aLongDepth, Naming aNaming) noexcept
+{
+    if (aShort == aLong) {
+        return aShortDepth == aLongDepth;
+    }
+    if (aNaming == Naming::Underscore) {
+        for (std::size_t depth = aLongDepth; depth != aShortDepth; ++depth) {
+            const std::string_view cut = WithoutTurn(aLong);
+            if (cut.size() == aLong.size()) {
+                return false;
+            }
+            aLong = cut;
+        }
+        return aShort == aLong;
+    }
+    // Turns above 999 print more digits, so among repeated fields any digit more is enough.
+    const std::string_view surplus = aLong.substr(aShort.size());
+    return std::all_of(surplus.begin(), surplus.end(), IsDigit) &&
+           (aLongDepth != 0 || surplus.size() >= 3 * aShortDepth);
+}
+
+/// Two fields that could get the same name make a table unusable.
+template<std::size_t N>
+constexpr void CompareNames(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
+{
+    for (std::size_t i = 0; i != aTable.fieldCount; ++i) {
+        // Behind a tag stand first those that begin with it.
+        const std::uint16_t a = aTable.byTag[i];
+        const std::string_view tag(aRows[a].tag);
+        for (std::size_t k = i + 1; k < aTable.fieldCount; ++k) {
+            const std::uint16_t b = aTable.byTag[k];
+            const std::string_view other(aRows[b].tag);
+            if (!other.starts_with(tag)) {
+                break;
+            }
+            const std::size_t depth = aTable.links[a].depth;
+            const bool repeated = depth > aTable.links[b].depth || (depth != 0 && aTable.naming != Naming::Underscore);
+            if ((tag == other || repeated) && NamesMeet(tag, depth, other, aTable.links[b].depth, aTable.naming)) {
+                aTable.wellFormed = false;
+            }
         }
     }
 }
@@ -236,7 +335,8 @@ constexpr void OrderByTag(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
 }  // namespace TableBuild
 
 /// Links the rows of a table. `wellFormed` of the result says whether every group is closed, every reference and width
-/// resolves and no two fields share a name; tables static_assert it.
+/// resolves, no row looks into a repeat that has ended and no two fields can get the same name; tables static_assert
+/// it.
 template<std::size_t N>
 constexpr FieldTableOf<N> MakeTable(const FieldRow (&aRows)[N], Naming aNaming = Naming::Underscore)
 {
@@ -249,6 +349,7 @@ constexpr FieldTableOf<N> MakeTable(const FieldRow (&aRows)[N], Naming aNaming =
         TableBuild::LinkReferences(aRows, table);
         TableBuild::MeasureGroups(aRows, table);
         TableBuild::OrderByTag(aRows, table);
+        TableBuild::CompareNames(aRows, table);
     }
     return table;
 }

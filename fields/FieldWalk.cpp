@@ -3,6 +3,9 @@
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace ORMO::SensorModel::CSM::Detail {
 
 namespace {
@@ -19,6 +22,16 @@ std::uint64_t Sum(std::uint64_t aLeft, std::uint64_t aRight) noexcept
 std::uint64_t Product(std::uint64_t aLeft, std::uint64_t aRight) noexcept
 {
     return aRight != 0 && aLeft > UINT64_MAX / aRight ? UINT64_MAX : aLeft * aRight;
+}
+
+/// The number with the adjustment of its row; what would fall below zero is zero.
+std::uint64_t Adjusted(std::uint64_t aNumber, std::int64_t aAdjust) noexcept
+{
+    if (aAdjust >= 0) {
+        return Sum(aNumber, static_cast<std::uint64_t>(aAdjust));
+    }
+    const auto less = static_cast<std::uint64_t>(-aAdjust);
+    return aNumber < less ? 0 : aNumber - less;
 }
 
 bool CountOfValue(const FieldRow& aRow, std::string_view aValue, std::uint64_t& aOut) noexcept
@@ -118,11 +131,16 @@ bool FieldWalk::Run(std::size_t aFirst, std::size_t aLast, std::size_t aDepth)
 bool FieldWalk::ReadField(std::size_t aRow)
 {
     std::uint64_t width = m_table.Row(aRow).width;
-    if (width == 0 && !Width(aRow, width)) {
-        return false;
+    if (width == 0) {
+        if (!Width(aRow, width)) {
+            return false;
+        }
+        if (width == 0 && m_table.Row(aRow).sizeAdjust < 0) {
+            return true;
+        }
     }
     std::string_view value;
-    if (!m_cursor.Take(width, value)) {
+    if (!m_store.HasRoom(width) || !m_cursor.Take(width, value)) {
         return Fail(Fault::Short, aRow, width);
     }
     m_store.Add(static_cast<std::uint16_t>(aRow), m_turns, value);
@@ -143,11 +161,11 @@ bool FieldWalk::Width(std::size_t aRow, std::uint64_t& aOut)
     if (!CountOf(m_table.Link(aRow).ref, size)) {
         return FailAtReference(Fault::NotANumber, aRow, 0);
     }
-    const auto less = static_cast<std::uint64_t>(row.sizeAdjust < 0 ? -row.sizeAdjust : 0);
-    if (size < less) {
-        return FailAtReference(Fault::LengthTooSmall, aRow, less);
+    const std::int64_t least = -std::int64_t{row.sizeAdjust};
+    if (least > 0 && size < static_cast<std::uint64_t>(least)) {
+        return FailAtReference(Fault::LengthTooSmall, aRow, static_cast<std::uint64_t>(least));
     }
-    aOut = size - less + static_cast<std::uint64_t>(row.sizeAdjust > 0 ? row.sizeAdjust : 0);
+    aOut = Adjusted(size, row.sizeAdjust);
     return true;
 }
 
@@ -159,14 +177,12 @@ bool FieldWalk::RepeatCount(std::size_t aRow, std::uint64_t& aOut)
         return true;
     }
     if (row.count != nullptr) {
-        return row.count(m_context, aOut) || Fail(Fault::NotANumber, aRow, 0);
+        return row.count(m_context, aOut) || FailAtReference(Fault::NotANumber, aRow, 0);
     }
     if (!CountOf(m_table.Link(aRow).ref, aOut)) {
         return FailAtReference(Fault::NotANumber, aRow, 0);
     }
-    const auto less = static_cast<std::uint64_t>(row.sizeAdjust < 0 ? -row.sizeAdjust : 0);
-    const auto more = static_cast<std::uint64_t>(row.sizeAdjust > 0 ? row.sizeAdjust : 0);
-    aOut = aOut < less ? 0 : aOut - less + more;
+    aOut = Adjusted(aOut, row.sizeAdjust);
     return true;
 }
 
@@ -176,15 +192,20 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
     if (!RepeatCount(aRow, count)) {
         return false;
     }
-    // Refused before looping: the smallest possible body must fit `count` times into what is left.
+    // Refused before looping: the smallest possible body must fit `count` times into what is left. A count that the
+    // table itself states is no claim of the data: there the first missing field tells more.
     const std::uint64_t least = LeastNow(aRow, aRow);
-    if (Product(least, count) > m_cursor.Remaining()) {
-        return FailAtReference(Fault::CountBeyondData, aRow, Product(least, count));
+    const std::uint64_t wanted = Product(least, count);
+    if (wanted > m_cursor.Remaining() && m_table.Row(aRow).number == 0) {
+        return FailAtReference(Fault::CountBeyondData, aRow, wanted);
     }
     const RowLink& link = m_table.Link(aRow);
     if (least != 0) {
-        m_store.Reserve(static_cast<std::size_t>(count * link.fields), m_cursor.Remaining());
+        // Fields may be empty, so their number is no bound by itself; the bytes left are.
+        const std::uint64_t fields = std::min<std::uint64_t>(Product(count, link.fields), m_cursor.Remaining());
+        m_store.Reserve(static_cast<std::size_t>(fields), m_cursor.Remaining());
     }
+    std::uint64_t emptyTurns = 0;
     for (std::uint64_t turn = 1; turn <= count; ++turn) {
         const std::size_t left = m_cursor.Remaining();
         const std::size_t entries = m_store.m_entries.size();
@@ -196,12 +217,14 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
             if (entries == m_store.m_entries.size()) {
                 break;  // nothing was read, so every further turn would find the same
             }
-            if (count > MOST_EMPTY_TURNS) {
+            // The second bound is for nested loops, whose few empty turns would multiply.
+            if (++emptyTurns > MOST_EMPTY_TURNS || ++m_emptyTurns > MOST_EMPTY_TURNS + m_context.BytesRead()) {
                 return FailAtReference(Fault::CountBeyondData, aRow, count);
             }
         }
     }
     m_turns[aDepth] = 0;
+    m_store.Forget(aRow, link.end);
     return true;
 }
 
@@ -302,6 +325,18 @@ bool FieldWalk::FailAtReference(Fault aFault, std::size_t aRow, std::uint64_t aW
         m_result.turns = entry->turns;
         m_result.offset = m_store.Position(*entry);
         m_result.value = std::string(m_store.Value(*entry));
+        return false;
+    }
+    // No field holds the number, so the first field that it would have brought stands for it.
+    std::size_t first = aRow;
+    while (first < m_table.Link(aRow).end && !m_table.Row(first).IsField()) {
+        ++first;
+    }
+    if (m_table.Row(first).IsField()) {
+        m_result.row = static_cast<std::uint16_t>(first);
+        for (std::size_t level = 0; level != m_table.Link(first).depth; ++level) {
+            m_result.turns[level] = std::max(m_result.turns[level], 1U);
+        }
     }
     return false;
 }

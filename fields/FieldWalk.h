@@ -24,11 +24,11 @@ enum class Fault : std::uint8_t
 struct WalkResult
 {
     Fault fault = Fault::None;
-    std::uint16_t row = NO_ROW;  ///< the field at fault
+    std::uint16_t row = NO_ROW;  ///< the field at fault: the missing one, or the one that holds the wrong number
     Turns turns{};
     std::uint64_t offset = 0;     ///< of the field at fault, from the first byte of the data
-    std::uint64_t wanted = 0;     ///< bytes wanted
-    std::uint64_t available = 0;  ///< bytes left
+    std::uint64_t wanted = 0;     ///< bytes wanted; 0 when the number that says so cannot be read
+    std::uint64_t available = 0;  ///< bytes left where the walk stopped
     std::uint64_t consumed = 0;   ///< bytes read before the fault, or in all
     std::string value;            ///< bytes of the field at fault, when it was read
 
@@ -95,6 +95,7 @@ private:
     ByteCursor m_cursor;
     WalkContext m_context;
     Turns m_turns{};
+    std::uint64_t m_emptyTurns = 0;  // of all loops
     WalkResult m_result;
 };
 

@@ -7,6 +7,15 @@
 
 namespace ORMO::SensorModel::CSM::Detail {
 
+/// Adds a message behind a blank line, unless the text is empty; an empty message adds nothing.
+inline void AppendBlock(std::string& aText, std::string_view aMessage)
+{
+    if (!aMessage.empty()) {
+        aText += aText.empty() ? "" : "\n\n";
+        aText += aMessage;
+    }
+}
+
 /// Collects messages with a blank line between them, as a reader accumulates them. Capped, so that a hostile file
 /// cannot flood a log; a last line says how many more there were.
 class MessageText
@@ -22,10 +31,7 @@ public:
         if (++m_count > MOST_MESSAGES) {
             return;
         }
-        if (!m_text.empty()) {
-            m_text += "\n\n";
-        }
-        m_text += aMessage;
+        AppendBlock(m_text, aMessage);
     }
 
     bool IsEmpty() const noexcept { return m_count == 0; }

@@ -21,8 +21,13 @@ bool ToWholeNumber(std::string_view aText, std::int64_t& aOut) noexcept
 {
     aText = WithoutPlus(TrimBlanks(aText));
     const char* const last = aText.data() + aText.size();
-    const auto [end, error] = std::from_chars(aText.data(), last, aOut);
-    return error == std::errc{} && end == last;
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(aText.data(), last, value);
+    if (error != std::errc{} || end != last) {
+        return false;
+    }
+    aOut = value;
+    return true;
 }
 
 bool ToRealNumber(std::string_view aText, double& aOut) noexcept

@@ -10,27 +10,41 @@ namespace {
 
 constexpr std::string_view MONTHS = "JANFEBMARAPRMAYJUNJULAUGSEPOCTNOVDEC";
 constexpr std::size_t MONTH_LETTERS = 3;
+constexpr int HIGHEST_LATITUDE = 90;
+constexpr int HIGHEST_LONGITUDE = 180;
+constexpr int HIGHEST_OF_SIXTY = 59;
 
-/// A piece of a picture that stands for a number of digits with bounds.
+enum class PieceKind : std::uint8_t
+{
+    Number,     ///< digits with bounds
+    Month,      ///< three letters
+    Degrees,    ///< a run of d
+    Character,  ///< one character
+    Broken      ///< a letter of a piece that stands alone
+};
+
+/// What the next characters of a picture stand for.
 struct Piece
 {
+    PieceKind kind;
     std::string_view text;
     int low;
     int high;
 };
 
-// Longer pieces first: CCYY before YY.
-constexpr std::array<Piece, 11> PIECES{{{"CCYY", 0, 9999},
-                                        {"YYYY", 0, 9999},
-                                        {"YY", 0, 99},
-                                        {"MM", 1, 12},
-                                        {"DD", 1, 31},
-                                        {"hh", 0, 23},
-                                        {"HH", 0, 23},
-                                        {"mm", 0, 59},
-                                        {"ss", 0, 60},
-                                        {"SS", 0, 60},
-                                        {"CC", 0, 99}}};
+// Longer pieces first: CCYY before YY, the letters of a month before its number.
+constexpr std::array<Piece, 12> PIECES{{{PieceKind::Number, "CCYY", 0, 9999},
+                                        {PieceKind::Number, "YYYY", 0, 9999},
+                                        {PieceKind::Number, "YY", 0, 99},
+                                        {PieceKind::Month, "MON", 0, 0},
+                                        {PieceKind::Month, "MMM", 0, 0},
+                                        {PieceKind::Number, "MM", 1, 12},
+                                        {PieceKind::Number, "DD", 1, 31},
+                                        {PieceKind::Number, "hh", 0, 23},
+                                        {PieceKind::Number, "HH", 0, 23},
+                                        {PieceKind::Number, "mm", 0, HIGHEST_OF_SIXTY},
+                                        {PieceKind::Number, "ss", 0, HIGHEST_OF_SIXTY + 1},  // a leap second
+                                        {PieceKind::Number, "SS", 0, HIGHEST_OF_SIXTY + 1}}};
 
 bool IsDigit(char aCharacter) noexcept
 {
@@ -47,36 +61,92 @@ bool IsMonth(std::string_view aText) noexcept
     return false;
 }
 
-/// Digits within the bounds, or hyphens throughout: a part that is not known.
-bool PieceMatches(const Piece& aPiece, std::string_view aText) noexcept
+/// Digits throughout; no text of a picture is long enough to overflow.
+bool ToNumber(std::string_view aText, int& aOut) noexcept
 {
-    if (std::all_of(aText.begin(), aText.end(), [](char aCharacter) { return aCharacter == '-'; })) {
-        return true;
-    }
-    int number = 0;
+    aOut = 0;
     for (const char character : aText) {
         if (!IsDigit(character)) {
             return false;
         }
-        number = 10 * number + (character - '0');
+        aOut = 10 * aOut + (character - '0');
     }
-    return aPiece.low <= number && number <= aPiece.high;
+    return true;
 }
 
-/// Whole degrees: two digits are a latitude, three a longitude.
-bool DegreesMatch(std::string_view aText) noexcept
+/// Reads a picture and a value of the same length from left to right.
+class PictureReader
+{
+public:
+    /// The next piece of the picture, given what came before.
+    Piece Next(std::string_view aPicture) const noexcept;
+    /// Whether the characters of the value, as many as the piece has, are such a piece.
+    bool Matches(const Piece& aPiece, std::string_view aText) noexcept;
+    /// What is to be remembered of a piece.
+    void Pass(const Piece& aPiece) noexcept;
+
+private:
+    bool CharacterMatches(char aPicture, char aCharacter) const noexcept;
+
+    bool m_afterPoint = false;  // digits are a fraction of the piece before, up to the next sign or letter
+    bool m_isAngle = false;     // minutes and seconds are parts of a degree
+    bool m_isFull = false;      // the degrees are at their bound, so nothing but zeros may follow
+};
+
+Piece PictureReader::Next(std::string_view aPicture) const noexcept
+{
+    const char first = aPicture.front();
+    const Piece character{PieceKind::Character, aPicture.substr(0, 1), 0, 0};
+    if (m_afterPoint && (first == 's' || first == 'S' || first == 'd')) {
+        return character;
+    }
+    for (const Piece& piece : PIECES) {
+        if (aPicture.starts_with(piece.text)) {
+            return piece;
+        }
+    }
+    if (aPicture.starts_with("dd")) {
+        const std::string_view run = aPicture.substr(0, aPicture.find_first_not_of('d'));
+        const bool known = run.size() <= 3;
+        return {known ? PieceKind::Degrees : PieceKind::Broken, run, 0,
+                run.size() == 3 ? HIGHEST_LONGITUDE : HIGHEST_LATITUDE};
+    }
+    constexpr std::string_view KNOWN = "XY+nefzBJKLTZ.-: ";
+    return KNOWN.find(first) != std::string_view::npos ? character : Piece{PieceKind::Broken, character.text, 0, 0};
+}
+
+void PictureReader::Pass(const Piece& aPiece) noexcept
+{
+    const char first = aPiece.text.front();
+    m_afterPoint = first == '.' || (m_afterPoint && aPiece.kind == PieceKind::Character &&
+                                    std::string_view("sSdnefz").find(first) != std::string_view::npos);
+    m_isAngle = m_isAngle || aPiece.kind == PieceKind::Degrees;
+}
+
+bool PictureReader::Matches(const Piece& aPiece, std::string_view aText) noexcept
 {
     int number = 0;
-    for (const char character : aText) {
-        if (!IsDigit(character)) {
-            return false;
-        }
-        number = 10 * number + (character - '0');
+    switch (aPiece.kind) {
+        case PieceKind::Month:
+            return IsMonth(aText);
+        case PieceKind::Degrees:
+            m_isFull = ToNumber(aText, number) && number == aPiece.high;
+            return ToNumber(aText, number) && number <= aPiece.high;
+        case PieceKind::Number:
+            if (m_isAngle) {
+                const int high = m_isFull ? 0 : std::min(aPiece.high, HIGHEST_OF_SIXTY);
+                return ToNumber(aText, number) && number <= high;
+            }
+            return aText.find_first_not_of('-') == std::string_view::npos ||
+                   (ToNumber(aText, number) && aPiece.low <= number && number <= aPiece.high);
+        case PieceKind::Character:
+        case PieceKind::Broken:
+            break;
     }
-    return number <= (aText.size() > 2 ? 180 : 90);
+    return CharacterMatches(aPiece.text.front(), aText.front());
 }
 
-bool CharacterMatches(char aPicture, char aCharacter) noexcept
+bool PictureReader::CharacterMatches(char aPicture, char aCharacter) const noexcept
 {
     switch (aPicture) {
         case 'X':
@@ -90,8 +160,9 @@ bool CharacterMatches(char aPicture, char aCharacter) noexcept
         case 'f':
         case 'z':
         case 's':
+        case 'S':
         case 'd':
-            return IsDigit(aCharacter);
+            return m_isFull ? aCharacter == '0' : IsDigit(aCharacter);
         case 'B':
         case 'J':
         case 'K':
@@ -106,42 +177,40 @@ bool CharacterMatches(char aPicture, char aCharacter) noexcept
 
 bool PictureMatches(std::string_view aPicture, std::string_view aValue) noexcept
 {
-    bool afterPoint = false;
-    std::size_t place = 0;
-    while (place < aPicture.size()) {
-        if (aPicture.size() > aValue.size()) {
-            return false;
-        }
-        const std::string_view picture = aPicture.substr(place);
-        const std::string_view value = aValue.substr(place);
-        std::size_t length = 1;
-        if (picture.starts_with("MON") || picture.starts_with("MMM")) {
-            length = MONTH_LETTERS;
-            if (!IsMonth(value.substr(0, length))) {
-                return false;
-            }
-        } else if (const auto piece = std::find_if(
-                       PIECES.begin(), PIECES.end(),
-                       [&](const Piece& aPiece) { return !afterPoint && picture.starts_with(aPiece.text); });
-                   piece != PIECES.end()) {
-            length = piece->text.size();
-            if (!PieceMatches(*piece, value.substr(0, length))) {
-                return false;
-            }
-        } else if (picture.front() == 'd' && !afterPoint) {
-            length = std::min(picture.find_first_not_of('d'), picture.size());
-            if (!DegreesMatch(value.substr(0, length))) {
-                return false;
-            }
-        } else if (!CharacterMatches(picture.front(), value.front())) {
-            return false;
-        }
-        // Digits behind a point are a fraction of the piece before it, up to the next sign or letter.
-        const char last = picture.front();
-        afterPoint = last == '.' || (afterPoint && (last == 's' || last == 'd' || last == 'n' || last == 'f'));
-        place += length;
+    if (aPicture.size() != aValue.size()) {
+        return false;
     }
-    return aPicture.size() == aValue.size();
+    PictureReader reader;
+    while (!aPicture.empty()) {
+        const Piece piece = reader.Next(aPicture);
+        if (!reader.Matches(piece, aValue.substr(0, piece.text.size()))) {
+            return false;
+        }
+        reader.Pass(piece);
+        aPicture.remove_prefix(piece.text.size());
+        aValue.remove_prefix(piece.text.size());
+    }
+    return true;
+}
+
+bool IsPicture(std::string_view aPicture) noexcept
+{
+    PictureReader reader;
+    bool afterHour = false;
+    while (!aPicture.empty()) {
+        const Piece piece = reader.Next(aPicture);
+        // MM is a month everywhere; behind an hour somebody meant minutes, which are mm.
+        if (piece.kind == PieceKind::Broken || (afterHour && piece.text == "MM")) {
+            return false;
+        }
+        afterHour = piece.text == "hh" || piece.text == "HH";
+        reader.Pass(piece);
+        aPicture.remove_prefix(piece.text.size());
+        if (piece.kind == PieceKind::Number && aPicture.starts_with(piece.text.back())) {
+            return false;  // a letter too many
+        }
+    }
+    return true;
 }
 
 }  // namespace ORMO::SensorModel::CSM::Detail

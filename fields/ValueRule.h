@@ -33,14 +33,21 @@ enum class Verdict : std::uint8_t
 
 /// True when the value is written as the picture says:
 /// CCYY, YYYY, YY year; MM month; MON or MMM month in three capital letters; DD day; hh or HH hour; mm minute;
-/// ss or SS second; a run of d degrees; X is N or S; Y is E or W; + is a sign; n, e, f, z a digit; B, J, K, L a capital
-/// letter; every other character stands for itself. A pair of a date or time may be two hyphens: it is unknown.
+/// ss or SS second; a run of d degrees, two for a latitude and three for a longitude, with mm and ss behind them an
+/// angle; X is N or S; Y is E or W; + is a sign; n, e, f, z and, behind a point, s, S and d a digit; B, J, K, L a
+/// capital letter; every other character stands for itself. A pair of a date or time may be two hyphens: it is unknown.
 [[nodiscard]] bool PictureMatches(std::string_view aPicture, std::string_view aValue) noexcept;
 
-/// True when every alternative of the rule can be understood; tests hold all tables to it.
+/// True when every character of the picture has a meaning and no letter of a date, time or angle stands alone.
+[[nodiscard]] bool IsPicture(std::string_view aPicture) noexcept;
+
+/// True when every alternative of the rule can be understood and met; tests hold all tables to it.
 [[nodiscard]] bool IsRule(std::string_view aRule) noexcept;
 
 /// The first alternative of a list and the rest behind the "|".
 std::string_view NextAlternative(std::string_view& aRest) noexcept;
+
+/// The alternative without its meaning. A lone "=" or one at the front is text.
+std::string_view WithoutMeaning(std::string_view aAlternative) noexcept;
 
 }  // namespace ORMO::SensorModel::CSM::Detail

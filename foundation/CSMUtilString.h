@@ -153,7 +153,7 @@ public:
     static bool BinaryToUnsignedInt64(const char* aBytes, std::size_t aCount, std::uint64_t& aOut) noexcept;
     /// The decimal text of a big-endian unsigned value of any number of bytes, without leading zeros: the bytes 01 00
     /// give "256", nine bytes FF give "4722366482869645213695", bytes of zero give "0". False for null or no bytes.
-    /// The time grows with the square of the count; 100,000 bytes take less than a second.
+    /// The time grows with the square of the count; 100,000 bytes take about a second.
     static bool DecimalRepresentationOfBinary(const char* aBytes, std::size_t aCount, char** aOut) noexcept;
 
     /// Rounds a value to the figures that its uncertainty supports.

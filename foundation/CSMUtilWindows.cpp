@@ -8,17 +8,20 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <string_view>
+#include <system_error>
+#include <thread>
 #include <vector>
 
 #include <dlfcn.h>
-#include <pthread.h>
 
 namespace ORMO::SensorModel::CSM::Util {
 namespace {
@@ -130,33 +133,12 @@ bool ReadIdentifier(std::string_view aText, CLSID& aIdentifier) noexcept
 }
 }  // namespace
 
+/// Knows its owner, since only the owner may release it. The depth belongs to whoever owns the mutex.
 struct CSMUtilWindows::MutexLock::Mutex
 {
-    Mutex() = default;
-    ~Mutex()
-    {
-        if (isCreated) {
-            pthread_mutex_destroy(&handle);
-        }
-    }
-    Mutex(const Mutex&) = delete;
-    Mutex& operator=(const Mutex&) = delete;
-
-    /// A recursive mutex is the kind that refuses a release by a thread that does not own it.
-    bool Create() noexcept
-    {
-        pthread_mutexattr_t attributes;
-        if (pthread_mutexattr_init(&attributes) != 0) {
-            return false;
-        }
-        isCreated = pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_RECURSIVE) == 0 &&
-                    pthread_mutex_init(&handle, &attributes) == 0;
-        pthread_mutexattr_destroy(&attributes);
-        return isCreated;
-    }
-
-    pthread_mutex_t handle{};
-    bool isCreated = false;
+    std::recursive_mutex handle;
+    std::atomic<std::thread::id> owner{};
+    std::size_t depth = 0;
 };
 
 CSMUtilWindows::MutexLock::~MutexLock()
@@ -170,7 +152,7 @@ bool CSMUtilWindows::MutexLock::InitializeMutex() noexcept
         return true;
     }
     std::unique_ptr<Mutex> mutex(new (std::nothrow) Mutex);
-    if (mutex == nullptr || !mutex->Create()) {
+    if (mutex == nullptr) {
         return false;
     }
     // When another thread was first, its mutex stays and this one goes.
@@ -184,13 +166,31 @@ bool CSMUtilWindows::MutexLock::InitializeMutex() noexcept
 bool CSMUtilWindows::MutexLock::AcquireLock() noexcept
 {
     Mutex* const mutex = m_mutex.load();
-    return mutex != nullptr && pthread_mutex_lock(&mutex->handle) == 0;
+    if (mutex == nullptr) {
+        return false;
+    }
+    try {
+        mutex->handle.lock();
+    } catch (const std::system_error&) {
+        return false;  // acquired more often than the system can count
+    }
+    ++mutex->depth;
+    mutex->owner = std::this_thread::get_id();
+    return true;
 }
 
 bool CSMUtilWindows::MutexLock::ReleaseLock() noexcept
 {
     Mutex* const mutex = m_mutex.load();
-    return mutex != nullptr && pthread_mutex_unlock(&mutex->handle) == 0;
+    // Another thread may change the owner meanwhile, but never from or to this thread.
+    if (mutex == nullptr || mutex->owner != std::this_thread::get_id()) {
+        return false;
+    }
+    if (--mutex->depth == 0) {
+        mutex->owner = std::thread::id{};
+    }
+    mutex->handle.unlock();
+    return true;
 }
 
 void CSMUtilWindows::MutexLock::CleanupMutexLock() noexcept

@@ -236,10 +236,7 @@ int TREFactory::ExtractTREs(const char* aArea, std::size_t aLength, TREStore& aS
     }
     MessageText warnings;
     const int count = Cut({aArea, aLength}, aStore, aSpecificOnly, aValidate, warnings, aByteOrder, aPlace);
-    if (!warnings.IsEmpty()) {
-        aWarnings += aWarnings.empty() ? "" : "\n\n";
-        aWarnings += warnings.Text();
-    }
+    Detail::AppendBlock(aWarnings, warnings.Text());
     return count;
 }
 

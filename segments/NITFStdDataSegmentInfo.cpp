@@ -1,0 +1,172 @@
+#include "segments/NITFStdDataSegmentInfo.h"
+
+#include "fields/MessageText.h"
+#include "fields/Number.h"
+#include "segments/NITFStdDataSegment.h"
+
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+constexpr std::uint64_t LEAST_FILE_LENGTH = 40;
+constexpr std::uint64_t MOST_FILE_LENGTH = 999999999999;
+constexpr std::size_t TYPE_LENGTH = 2;
+
+bool IsKnownVersion(NITFCnst::Version aVersion) noexcept
+{
+    return aVersion == NITFCnst::NSIF_VERSION_NUMBER_10 || aVersion == NITFCnst::NITF_VERSION_NUMBER_11 ||
+           aVersion == NITFCnst::NITF_VERSION_NUMBER_20 || aVersion == NITFCnst::NITF_VERSION_NUMBER_21;
+}
+
+NITFCnst::DataSegmentType KindOf(std::string_view aType, NITFCnst::Version aVersion) noexcept
+{
+    const bool since21 = aVersion == NITFCnst::NITF_VERSION_NUMBER_21 || aVersion == NITFCnst::NSIF_VERSION_NUMBER_10;
+    const bool is20 = aVersion == NITFCnst::NITF_VERSION_NUMBER_20;
+    if (aType == "IM") {
+        return NITFCnst::DATA_SEGMENT_TYPE_IMAGE;
+    }
+    if (aType == "TE") {
+        return NITFCnst::DATA_SEGMENT_TYPE_TEXT;
+    }
+    if (aType == "DE") {
+        return NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION;
+    }
+    if (aType == "RE") {
+        return NITFCnst::DATA_SEGMENT_TYPE_RESERVED_EXTENSION;
+    }
+    if (aType == "SY" && (since21 || is20)) {
+        return since21 ? NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC : NITFCnst::DATA_SEGMENT_TYPE_SYMBOL;
+    }
+    if (aType == "LA" && is20) {
+        return NITFCnst::DATA_SEGMENT_TYPE_LABEL;
+    }
+    return NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+}
+
+}  // namespace
+
+bool NITFStdDataSegmentInfo::SetGlobalSegmentIndex(std::int32_t aIndex) noexcept
+{
+    m_globalIndex = aIndex < 0 ? m_globalIndex : aIndex;
+    return aIndex >= 0;
+}
+
+bool NITFStdDataSegmentInfo::SetSegmentIndex(std::int32_t aIndex) noexcept
+{
+    m_index = aIndex < 0 ? m_index : aIndex;
+    return aIndex >= 0;
+}
+
+bool NITFStdDataSegmentInfo::SetSegmentDataSize(std::uint64_t aBytes) noexcept
+{
+    m_dataSize = aBytes;
+    return true;
+}
+
+bool NITFStdDataSegmentInfo::SetSegmentDataStart(std::uint64_t aOffset) noexcept
+{
+    m_dataStart = aOffset;
+    return true;
+}
+
+bool NITFStdDataSegmentInfo::SetSegmentHeaderStart(std::uint64_t aOffset) noexcept
+{
+    m_headerStart = aOffset;
+    return true;
+}
+
+bool NITFStdDataSegmentInfo::SetSegmentHeaderSize(std::uint32_t aBytes) noexcept
+{
+    m_headerSize = aBytes;
+    return true;
+}
+
+bool NITFStdDataSegmentInfo::SetSegmentType(const char* aType, NITFCnst::Version aVersion)
+{
+    const std::string_view type = Detail::TrimWhite(aType);
+    if (type.size() != TYPE_LENGTH || !IsKnownVersion(aVersion)) {
+        return false;
+    }
+    m_version = aVersion;
+    m_kind = KindOf(type, aVersion);
+    m_type = m_kind == NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN ? std::string_view{} : type;
+    return m_kind != NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+}
+
+bool NITFStdDataSegmentInfo::operator==(const NITFStdDataSegmentInfo& aOther) const noexcept
+{
+    const auto all = [](const NITFStdDataSegmentInfo& aInfo) {
+        return std::tie(aInfo.m_globalIndex, aInfo.m_index, aInfo.m_version, aInfo.m_kind, aInfo.m_type,
+                        aInfo.m_dataSize, aInfo.m_dataStart, aInfo.m_headerStart, aInfo.m_headerSize);
+    };
+    return all(*this) == all(aOther);
+}
+
+bool NITFStdDataSegmentInfos::Build(NITFCnst::Version aVersion, std::uint64_t aHeaderLength, std::uint64_t aFileLength,
+                                    const std::vector<NITFSegmentLengths>& aKinds, std::string& aErrors)
+{
+    m_byKind.clear();
+    m_inFileOrder.clear();
+    std::uint64_t current = aHeaderLength;
+    std::int32_t global = 0;
+    const auto fail = [&](std::string_view aMessage) {
+        m_byKind.clear();
+        m_inFileOrder.clear();
+        Detail::AppendBlock(aErrors, aMessage);
+        return false;
+    };
+    for (const NITFSegmentLengths& kind : aKinds) {
+        if (aFileLength < LEAST_FILE_LENGTH || aFileLength > MOST_FILE_LENGTH || current > aFileLength) {
+            return fail(
+                "ERROR: Invalid current byte value or the input NITFFileHeader object is NULL/invalid or it contains "
+                "invalid field value(s).");
+        }
+        if (kind.count == 0) {
+            continue;
+        }
+        const std::string failed = "ERROR: Failed to retrieve data segment information of type " +
+                                   Detail::Quoted(kind.type) + " from the NITF file header.";
+        if (kind.headers.size() != kind.count || kind.data.size() != kind.count) {
+            return fail(failed);
+        }
+        Infos infos;
+        infos.reserve(kind.count);
+        for (std::size_t i = 0; i != kind.count; ++i) {
+            auto info = std::make_unique<NITFStdDataSegmentInfo>();
+            if (!info->SetSegmentType(kind.type, aVersion)) {
+                return fail(failed);
+            }
+            info->SetGlobalSegmentIndex(global++);
+            info->SetSegmentIndex(static_cast<std::int32_t>(i));
+            info->SetSegmentHeaderStart(current);
+            info->SetSegmentHeaderSize(kind.headers[i]);
+            info->SetSegmentDataStart(current + kind.headers[i]);
+            info->SetSegmentDataSize(kind.data[i]);
+            // At most 999 segments of at most twelve digits each: the sum stays far below 64 bits.
+            current += kind.headers[i] + kind.data[i];
+            m_inFileOrder.push_back(info.get());
+            infos.push_back(std::move(info));
+        }
+        const char* const name = NITFStdDataSegment::GetDataSegmentName(infos.front()->GetDataSegmentType());
+        m_byKind[name] = std::move(infos);
+    }
+    m_end = current;
+    return true;
+}
+
+const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(const char* aKindName) const
+{
+    const auto it = m_byKind.find(std::string(Detail::TrimWhite(aKindName)));
+    return it == m_byKind.end() ? nullptr : &it->second;
+}
+
+const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(NITFCnst::DataSegmentType aKind) const
+{
+    return Get(NITFStdDataSegment::GetDataSegmentName(aKind));
+}
+
+}  // namespace ORMO::SensorModel::CSM

@@ -1,0 +1,87 @@
+#include "tre/TreLayout.h"
+#include "tre/tags/TreTags.h"
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+using namespace Detail;
+using enum Detail::Need;
+using enum Detail::Form;
+
+// clang-format off
+constexpr FieldRow ROWS[] = {
+    //    tag          width  need           form     values                unit      label
+    Field("PAT_NO",        4, Required,      Integer, "0001..0999",         "",       "Patch Number",
+          "Number of the patch that this extension describes."),
+    Field("LAST_PAT_FLAG", 1, RequiredBlank, Integer, "0=not the last patch|1=last patch", "", "Last Patch of Search Scene",
+          "Tells whether this is the last patch of a search scene."),
+    Field("LNSTRT",        7, Required,      Integer, "0000001..9999999",   "lines",  "Patch Start Line Number",
+          "Image line at which the patch begins."),
+    Field("LNSTOP",        7, Required,      Integer, "0000020..9999999",   "lines",  "Patch End Line Number",
+          "Image line at which the patch ends."),
+    Field("AZL",           5, Required,      Integer, "00020..99999",       "lines",  "Number of Azimuth Lines",
+          "Number of azimuth lines in the patch."),
+    Field("NVL",           5, RequiredBlank, Integer, "00020..99999",       "lines",  "Number of Valid Azimuth Lines",
+          "Number of azimuth lines of the patch that hold valid data."),
+    Field("FVL",           3, RequiredBlank, Integer, "001..681",           "lines",  "First Valid Azimuth Line",
+          "First azimuth line of the patch that holds valid data."),
+    Field("NPIXEL",        5, Required,      Integer, "00001..99999",       "pixels", "Number of Pixels per Azimuth Line",
+          "Number of pixels in each azimuth line."),
+    Field("FVPIX",         5, Required,      Integer, "00001..99999",       "pixels", "First Valid Pixel Index",
+          "Index of the first valid pixel of an azimuth line."),
+    Field("FRAME",         3, RequiredBlank, Integer, "001..512",           "",       "Spot Frame Number",
+          "Frame number of a spot collection; blank for search scenes."),
+    Field("UTC",           8, Required,      Real,    "00000.00..86399.99", "s",      "Coordinated Universal Time",
+          "Time of day of the collection, in seconds after midnight."),
+    Field("SHEAD",         7, Required,      Real,    "000.000..359.999",   "deg",    "Scene Heading",
+          "Heading of the scene centre line, clockwise from north."),
+    Field("GRAVITY",       7, RequiredBlank, Real,    "31.0000..33.9999",   "ft/s^2", "Local Gravity",
+          "Gravity at the place of the collection."),
+    Field("INS_V_NC",      5, Required,      Integer, "-9999..+9999",       "ft/s",   "INS Platform Velocity, North",
+          "North component of the platform velocity from the inertial navigation system."),
+    Field("INS_V_EC",      5, Required,      Integer, "-9999..+9999",       "ft/s",   "INS Platform Velocity, East",
+          "East component of the platform velocity from the inertial navigation system."),
+    Field("INS_V_DC",      5, Required,      Integer, "-9999..+9999",       "ft/s",   "INS Platform Velocity, Down",
+          "Down component of the platform velocity from the inertial navigation system."),
+    Field("OFFLAT",        8, RequiredBlank, Real,    "-80.0000..+80.0000", "arcsec", "Geodetic Latitude Offset",
+          "Geodetic latitude offset that belongs to the platform position."),
+    Field("OFFLONG",       8, RequiredBlank, Real,    "-80.0000..+80.0000", "arcsec", "Geodetic Longitude Offset",
+          "Geodetic longitude offset that belongs to the platform position."),
+    Field("TRACK",         3, Required,      Integer, "000..359",           "deg",    "Track Heading",
+          "Heading of the aircraft ground track."),
+    Field("GSWEEP",        6, Required,      Real,    "000.00..120.00",     "deg",    "Ground Sweep Angle",
+          "Angle on the ground that the radar beam swept during the patch."),
+    Field("SHEAR",         8, RequiredBlank, Real,    "0.850000..1.000000", "",       "Patch Shear Factor",
+          "Factor by which the patch is sheared."),
+    Field("BATCH_NO",      6, RequiredBlank, Integer, "000001..999999",     "",       "Batch Number",
+          "Number of the batch of data from which the patch was made."),
+};
+// clang-format on
+constexpr auto TABLE = MakeTable(ROWS);
+static_assert(TABLE.wellFormed);
+static_assert(FixedWidth(ROWS) == 121);
+
+}  // namespace
+
+const Detail::TreLayout& TrePATCHB::Layout()
+{
+    static constexpr Detail::TreLayout LAYOUT{
+        .tag = "PATCHB",
+        .name = "Patch Information",
+        .length = 121,
+        .lengthRule = "",
+        .placement = "image subheader",
+        .purpose =
+            "Describes one processing patch of a radar image: its lines and pixels, time, heading and platform "
+            "velocity.",
+        .sources =
+            "STDI-0002 version 2.1; STDI-0002 Volume 1 Appendix E (2025-02); GDAL TRE description file; "
+            "imaging-nitf TRE description file; NITRO plug-in table; Opticks TRE parser; NGA MATLAB SAR "
+            "Toolbox; NFX TRE class",
+        .certainty = Detail::LayoutCertainty::Agreed,
+        .table = TABLE.View()};
+    return LAYOUT;
+}
+
+}  // namespace ORMO::SensorModel::CSM
