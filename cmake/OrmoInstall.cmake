@@ -1,1 +1,63 @@
-# Filled in with the exported targets, headers, package and pkg-config files.
+# What users get: the libraries, the public headers with one umbrella header, the CMake package and the pkg-config file.
+include(CMakePackageConfigHelpers)
+
+file(
+    GLOB_RECURSE
+    ORMO_PUBLIC_HEADERS
+    RELATIVE "${PROJECT_SOURCE_DIR}"
+    CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/foundation/*.h"
+    "${PROJECT_SOURCE_DIR}/raster/*.h"
+    "${PROJECT_SOURCE_DIR}/tre/*.h"
+    "${PROJECT_SOURCE_DIR}/segments/*.h"
+    "${PROJECT_SOURCE_DIR}/nitf/*.h"
+    "${PROJECT_SOURCE_DIR}/isd/*.h")
+# Internals: headers that name no exported class.
+set(ORMO_INTERNAL_HEADERS)
+foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
+    file(STRINGS "${PROJECT_SOURCE_DIR}/${header}" exported REGEX "ORMO_CSM_API|CSM_API_DOOR" LIMIT_COUNT 1)
+    if(NOT exported AND NOT header MATCHES "foundation/(CSMApi|CharStrCompare)\\.h$")
+        list(APPEND ORMO_INTERNAL_HEADERS "${header}")
+    endif()
+endforeach()
+list(REMOVE_ITEM ORMO_PUBLIC_HEADERS ${ORMO_INTERNAL_HEADERS})
+
+set(ORMO_UMBRELLA "#pragma once\n\n// Every public class of the Ormo CSM library.\n\n")
+foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
+    string(APPEND ORMO_UMBRELLA "#include \"${header}\"\n")
+endforeach()
+file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/include/ormo_csm.h" CONTENT "${ORMO_UMBRELLA}" @ONLY)
+target_include_directories(ormo_csm PUBLIC $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>)
+
+set(ORMO_INSTALLED_TARGETS ormo_csm)
+if(NOT ORMO_CSMAPI_ROOT)
+    list(APPEND ORMO_INSTALLED_TARGETS ormo_csmapi)
+    file(GLOB ORMO_CSMAPI_HEADERS "${PROJECT_SOURCE_DIR}/csmapi/*.h")
+    install(FILES ${ORMO_CSMAPI_HEADERS} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/csmapi")
+endif()
+if(TARGET ormo_csm_gdal)
+    list(APPEND ORMO_INSTALLED_TARGETS ormo_csm_gdal)
+endif()
+set_target_properties(${ORMO_INSTALLED_TARGETS} PROPERTIES INSTALL_RPATH "$ORIGIN")
+install(TARGETS ${ORMO_INSTALLED_TARGETS} EXPORT OrmoCsmTargets)
+foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/${folder}")
+endforeach()
+install(FILES "${PROJECT_BINARY_DIR}/include/ormo_csm.h" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm")
+if(TARGET ormo-nitf)
+    install(TARGETS ormo-nitf)
+endif()
+
+set(ORMO_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/OrmoCsm")
+install(
+    EXPORT OrmoCsmTargets
+    NAMESPACE Ormo::
+    DESTINATION "${ORMO_PACKAGE_DIR}")
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrmoCsmConfig.cmake.in"
+                              "${PROJECT_BINARY_DIR}/OrmoCsmConfig.cmake" INSTALL_DESTINATION "${ORMO_PACKAGE_DIR}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/OrmoCsmConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/OrmoCsmConfig.cmake" "${PROJECT_BINARY_DIR}/OrmoCsmConfigVersion.cmake"
+        DESTINATION "${ORMO_PACKAGE_DIR}")
+configure_file("${PROJECT_SOURCE_DIR}/cmake/ormo-csm.pc.in" "${PROJECT_BINARY_DIR}/ormo-csm.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/ormo-csm.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

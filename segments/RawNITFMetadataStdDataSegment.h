@@ -48,7 +48,6 @@ public:
     /// Replaces the metadata of all TREs; the TREs themselves are no longer needed afterwards.
     void SetTRERawNITFMetadata(const TREStore& aTres, const std::vector<const TRE*>& aOverflowTres);
 
-protected:
     bool GetMatadata(const char** aDataType, const EditabilityMap** aEditability, const TextMap** aDescriptions,
                      const SizeMap** aSizes, const std::vector<std::string>** aTags, const TextMap** aValues,
                      const SizeMap** aActualSizes, const TextMap** aLongNames, const TextMap** aTypes,

@@ -72,12 +72,6 @@ public:
     const char* GetRawDataStream(std::size_t& aLength) const noexcept;
     const char* GetRawDataStreamDescription() const noexcept { return m_rawDataDescription.c_str(); }
 
-protected:
-    RawNITFMetadata(NITFCnst::NITFMetadataType aTypeCode, int aVersionNumber);
-    /// Copies build arrays of their own when they are first asked.
-    RawNITFMetadata(const RawNITFMetadata& aOther);
-    RawNITFMetadata& operator=(const RawNITFMetadata& aOther);
-
     /// Hands out what the fields are; all of it stays the subclass's and must not change while arrays are in use.
     /// Every map has the field tag as its key: values and actual sizes hold one entry per present field, the others
     /// one per defined field. The list of binary fields may be missing (null), or has one flag per entry of the tags.
@@ -86,6 +80,12 @@ protected:
                              const SizeMap** aSizes, const std::vector<std::string>** aTags, const TextMap** aValues,
                              const SizeMap** aActualSizes, const TextMap** aLongNames, const TextMap** aTypes,
                              const std::vector<bool>** aBinaryFields) const = 0;
+
+protected:
+    RawNITFMetadata(NITFCnst::NITFMetadataType aTypeCode, int aVersionNumber);
+    /// Copies build arrays of their own when they are first asked.
+    RawNITFMetadata(const RawNITFMetadata& aOther);
+    RawNITFMetadata& operator=(const RawNITFMetadata& aOther);
 
     /// With the flag set every array query answers false.
     void SetNoMetadata(bool aNone) noexcept;

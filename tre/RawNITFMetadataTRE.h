@@ -42,7 +42,6 @@ public:
     /// Bytes of data.
     std::size_t GetRawDataStreamSize() const noexcept;
 
-protected:
     bool GetMatadata(const char** aDataType, const EditabilityMap** aEditability, const TextMap** aDescriptions,
                      const SizeMap** aSizes, const std::vector<std::string>** aTags, const TextMap** aValues,
                      const SizeMap** aActualSizes, const TextMap** aLongNames, const TextMap** aTypes,

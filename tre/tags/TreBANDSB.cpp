@@ -113,7 +113,7 @@ constexpr FieldRow ROWS[] = {
             Field("LBOUND",                           7, Conditional,   Real,     WAVELENGTH,                     "WAVE_LENGTH_UNIT", "Band n Lower Wavelength Bound",
                   "Wavelength of the lower half-response point of this band."),
             Field("UBOUND",                           7, Conditional,   Real,     WAVELENGTH,                     "WAVE_LENGTH_UNIT", "Band n Upper Wavelength Bound",
-                  "Wavelength of the upper half-response point of this band; not below LBOUND."),
+                  "Wavelength of the upper half-response point of this band, not below LBOUND."),
         End(),
         WhenAnyBit("EXISTENCE_MASK", 1U << 18U),
             Field("SCALE_FACTOR",                     4, Conditional,   Float,    "",                             "",                 "Individual Scale Factor",

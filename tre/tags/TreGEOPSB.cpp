@@ -28,8 +28,8 @@ constexpr FieldRow ROWS[] = {
     Field("ELC",     3, Required,      Text,    "any=DIGEST Part 3 table 6-1 code", "", "Ellipsoid Code",
           "Code of the reference ellipsoid; WE by default."),
     Field("DVR",    80, RequiredBlank, Text,    "",           "", "Vertical Datum Reference",
-          "Name of the surface from which elevations are counted; blank when the image holds no elevations, for "
-          "example Geodetic (the default) or Mean Sea Level."),
+          "Name of the surface from which elevations are counted, for example Geodetic (the default) or Mean Sea "
+          "Level; blank when the image holds no elevations."),
     Field("VDCDVR",  4, RequiredBlank, Text,    "GEOD|MSL|any=another DIGEST Part 3 code", "", "Code (Category) of Vertical Reference",
           "Code of the surface from which elevations are counted; blank when the image holds no elevations; GEOD by "
           "default."),

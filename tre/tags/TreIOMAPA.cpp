@@ -42,7 +42,7 @@ constexpr FieldRow ROWS[] = {
         Field("XOB_1",            4, Conditional, Integer,  "0000..4095",               "",      "Segment Boundary 1",
               "Amplitude at which the second segment begins."),
         Field("XOB_2",            4, Conditional, Integer,  "0000..4095",               "",      "Segment Boundary 2",
-              "Amplitude at which the third segment begins; more than XOB_1."),
+              "Amplitude at which the third segment begins, above XOB_1."),
         Repeat("NO_OF_SEGMENTS"),
             Field("OUT_B0",           4, Conditional, Float,    "",                         "",      "B0 Coefficient",
                   "Coefficient of the term of degree 0 in the polynomial of the segment."),

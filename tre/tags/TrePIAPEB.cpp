@@ -11,16 +11,16 @@ using enum Detail::Form;
 
 // clang-format off
 constexpr FieldRow ROWS[] = {
-    //    tag      width  need      form  values                   unit label
-    Field("LASTNME",  28, Optional, Text, "",                      "", "Last Name",
+    //    tag      width  need      form  values                 unit label
+    Field("LASTNME",  28, Optional, Text, "",                    "", "Last Name",
           "Family name of the person."),
-    Field("FIRSTNME", 28, Optional, Text, "",                      "", "First Name",
+    Field("FIRSTNME", 28, Optional, Text, "",                    "", "First Name",
           "First name of the person."),
-    Field("MIDNME",   28, Optional, Text, "",                      "", "Middle Name",
+    Field("MIDNME",   28, Optional, Text, "",                    "", "Middle Name",
           "Middle name of the person."),
-    Field("DOB",       8, Optional, Date, "{CCMMDDYY}|{CCYYMMDD}", "", "Birth Date",
-          "Day on which the person was born; the standard prints CCMMDDYY, real records hold CCYYMMDD."),
-    Field("ASSOCTRY",  2, Optional, Text, "AA..ZZ=country code",   "", "Associated Country",
+    Field("DOB",       8, Optional, Date, "{YYMMDDYY}=CCMMDDYY as the standard prints it|{CCYYMMDD}=as found in records", "", "Birth Date",
+          "Day on which the person was born."),
+    Field("ASSOCTRY",  2, Optional, Text, "AA..ZZ=country code", "", "Associated Country",
           "Country to which the person belongs."),
 };
 // clang-format on

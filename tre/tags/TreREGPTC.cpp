@@ -26,11 +26,9 @@ constexpr FieldRow ROWS[] = {
         Field("ZVL",     15, RequiredBlank, Real,    "",                         "m",          "Elevation",
               "Elevation of the registration point above the vertical datum; blank when it is not known."),
         Field("DIX",     11, Required,      Real,    "-9999999.99..99999999.99", "pixels",     "Column Number of Registration Point",
-              "Image column at which the registration point appears; fractions of a pixel are possible; with two "
-              "decimals."),
+              "Image column at which the registration point appears, with two decimals."),
         Field("DIY",     11, Required,      Real,    "-9999999.99..99999999.99", "pixels",     "Row Number of Registration Point",
-              "Image row at which the registration point appears; fractions of a pixel are possible; with two "
-              "decimals."),
+              "Image row at which the registration point appears, with two decimals."),
         Field("UNIAAH",   3, RequiredBlank, Text,    UNITS,                      "",           "Unit of Measure for AAH",
               "Unit of the horizontal accuracy; blank when that accuracy is not known, and then the value is left "
               "out."),

@@ -32,7 +32,7 @@ constexpr FieldRow ROWS[] = {
     Field("COUNTR",  2, RequiredBlank, Text,     "any=country code|blank",       "",      "Security Country or International Code",
           "Country or body whose security rules apply.").Alias("COUNTRYCODE"),
     Field("RELEAS",  2, RequiredBlank, Text,     "",                             "",      "Security Release Marking",
-          "To whom the frame may be released; blank when not restricted.").Alias("RELEASABLE"),
+          "To whom the frame may be released; may be blank.").Alias("RELEASABLE"),
     Field("LOCSEC",  4, Required,      Unsigned, "0..4294967295",                "bytes", "Location Section Location",
           "Distance of the location section from the start of the file.").Alias("LOCATIONSECT"),
 };

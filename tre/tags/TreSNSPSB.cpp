@@ -37,7 +37,7 @@ constexpr FieldRow ROWS[] = {
             Field("WS1",      5, Conditional,   Integer, "00000..99999",             "nm",         "Signal Lower Limit",
                   "Lower end of the spectral range of the band."),
             Field("WS2",      5, Conditional,   Integer, "00000..99999",             "nm",         "Signal Upper Limit",
-                  "Upper end of the spectral range of the band; not less than WS1."),
+                  "Upper end of the spectral range of the band, not less than WS1."),
         End(),
         Field("UNIRES",   3, Required,      Text,
               "UM|MM|CM|DM|M|KM|IN|FT|YD|FM|FF|MI|NM|ML|MSC|SEC|MA|DEG",

@@ -18,7 +18,7 @@ constexpr FieldRow ROWS[] = {
     Field("N_MATES",        1, Required,      Integer, "1..3",                      "",    "Number of Stereo Mates",
           "How many stereo mates the image has."),
     Field("MATE_INSTANCE",  1, Required,      Integer, "1..3",                      "",    "Mate Instance",
-          "Which of the stereo mates this extension describes; not above N_MATES."),
+          "Which of the stereo mates this extension describes, not above N_MATES."),
     Field("B_CONV",         5, RequiredBlank, Real,    "00.00..99.99|100.0..179.9", "deg", "Beginning Convergence Angle",
           "Angle between the two lines of sight at the first lines of the pair."),
     Field("E_CONV",         5, RequiredBlank, Real,    "00.00..99.99|100.0..179.9", "deg", "Ending Convergence Angle",

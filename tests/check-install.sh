@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Installs the build and uses it as a stranger would: through find_package and through pkg-config; every public header
+# compiles alone as C++17, and nothing but public classes is exported.
+set -euo pipefail
+build=$(realpath "$1")
+source_dir=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+cmake --install "$build" --prefix "$work/prefix" >/dev/null
+sample=$work/sample.ntf
+"$build/examples/ormo-make-sample" "$sample"
+
+cmake -S "$source_dir/tests/install" -B "$work/client" -G Ninja -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
+cmake --build "$work/client" >/dev/null
+"$work/client/client" "$sample" | grep -q "^NITF02.10, 1 image" || { echo "FAILED: client through find_package"; exit 1; }
+
+pc=$(dirname "$(find "$work/prefix" -name ormo-csm.pc)")
+flags=$(PKG_CONFIG_PATH="$pc" pkg-config --define-variable=prefix="$work/prefix" --cflags --libs ormo-csm)
+# shellcheck disable=SC2086
+g++ -std=c++17 "$source_dir/tests/install/client.cpp" -o "$work/pc-client" $flags
+LD_LIBRARY_PATH=$(dirname "$pc") "$work/pc-client" "$sample" | grep -q "^NITF02.10, 1 image" ||
+    { echo "FAILED: client through pkg-config"; exit 1; }
+"$work/prefix/bin/ormo-nitf" info "$sample" >/dev/null || { echo "FAILED: the installed program"; exit 1; }
+
+include=$work/prefix/include/ormo-csm
+find "$include" -name '*.h' ! -path '*/csmapi/*' -print0 |
+    xargs -0 -P "$(nproc)" -n 8 sh -c 'for h in "$@"; do
+        g++ -std=c++17 -fsyntax-only -Wall -Wextra -Wpedantic -Werror -I"$0" -I"$0/csmapi" -x c++ "$h" 2>&1 |
+            grep -v "pragma once in main file" | grep -E "error|warning" && { echo "FAILED: $h alone"; exit 255; }; done; true' "$include"
+
+exported=$(nm -DC --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -c " T ORMO::.*Detail::" || true)
+[ "$exported" -eq 0 ] || { echo "FAILED: $exported internal functions are exported"; exit 1; }
+echo "1 passed, 0 failed"

@@ -1,0 +1,76 @@
+#!/usr/bin/env bash
+# The program as a user meets it: exit codes, documents that stay whole, no GDAL behind it, few reads.
+set -euo pipefail
+tool=$(realpath "$1")
+source_dir=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
+corpus=${ORMO_CORPUS:-$source_dir/../shared/corpus}
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failed=0
+
+fail() {
+    echo "FAILED: $*"
+    failed=$((failed + 1))
+}
+# expect CODE COMMAND...: runs the command quietly and compares its exit code.
+expect() {
+    local wanted=$1 got=0
+    shift
+    "$@" >"$work/out" 2>"$work/err" || got=$?
+    [ "$got" -eq "$wanted" ] || fail "exit code $got in place of $wanted: $*"
+}
+
+sample=$work/sample.ntf
+"$(dirname "$tool")/../examples/ormo-make-sample" "$sample"
+
+expect 0 "$tool" info "$sample"
+grep -q "NITF02.10" "$work/out" || fail "info does not tell the version"
+expect 0 "$tool" json "$sample"
+python3 -c 'import json,sys
+for line in sys.stdin: json.loads(line)' <"$work/out" || fail "json of the sample is no JSON"
+expect 0 "$tool" describe
+expect 0 "$tool" describe BLOCKA L_LINES
+expect 1 "$tool" describe NOSUCH
+expect 2 "$tool" json "$work/nothing.ntf"
+grep -q "^$work/nothing.ntf: " "$work/err" || fail "an error line does not begin with the file name"
+expect 2 "$tool" json "$work"
+expect 2 "$tool" nonsense
+expect 0 "$tool" extract "$sample" text 0 -o "$work/text"
+expect 1 "$tool" extract "$sample" text 9 -o "$work/text9"
+mkfifo "$work/fifo"
+expect 2 timeout 5 "$tool" info "$work/fifo"
+
+ldd "$tool" | grep -q libgdal && fail "libgdal stands behind the program"
+if [ -z "${ORMO_SANITIZED:-}" ] && command -v strace >/dev/null; then
+    reads=$(strace -f -e trace=pread64 "$tool" json "$sample" 2>&1 >/dev/null | grep -c pread64 || true)
+    segments=$("$tool" json "$sample" | python3 -c 'import json,sys; print(len(json.load(sys.stdin)["segments"]))')
+    # One read per header, two for the data of overflow DESs at most, and one to identify the file.
+    [ "$reads" -le $((segments + 4)) ] || fail "$reads reads for $segments headers"
+    echo "program: $reads reads for $segments headers"
+fi
+
+check_documents() {
+    local file=$1
+    "$tool" xml -o "$work/doc.xml" "$file" || { fail "xml of $file"; return; }
+    xmllint --noout --huge --schema "$source_dir/schemas/raster/ImageSupportDataNITF.xsd" "$work/doc.xml" 2>"$work/err" ||
+        { fail "xml of $file is not valid"; head -n 3 "$work/err"; }
+    "$tool" validate --xml "$file" >"$work/report.xml" || [ $? -eq 1 ] || fail "validate of $file"
+    xmllint --noout --schema "$source_dir/schemas/raster/ValidationSummaryNITF.xsd" "$work/report.xml" 2>"$work/err" ||
+        { fail "validation report of $file is not valid"; head -n 3 "$work/err"; }
+    "$tool" info "$file" >/dev/null || fail "info of $file"
+}
+
+check_documents "$sample"
+if [ -d "$corpus" ]; then
+    count=0
+    while IFS='|' read -r _ name _ _ _ _ state _; do
+        name=$(echo "$name" | tr -d ' ')
+        case "$state" in *good*) ;; *) continue ;; esac
+        check_documents "$corpus/$name"
+        count=$((count + 1))
+    done < <(grep '^|' "$corpus/README.md" | tail -n +3)
+    echo "program: documents of $count good files are whole"
+else
+    echo "program: the corpus is absent, only the sample was checked"
+fi
+[ "$failed" -eq 0 ] && echo "1 passed, 0 failed" || { echo "$failed checks failed"; exit 1; }
