@@ -150,11 +150,15 @@ bool WidthRange(const FieldTable& aTable, std::string_view aTag, std::size_t& aS
     aSmallest = row.width;
     aLargest = row.width;
     if (row.width == 0 && row.sizeTag != nullptr) {
-        aLargest = 1;
-        for (std::uint32_t digit = 0; digit != aTable.Row(aTable.Link(index).ref).width; ++digit) {
-            aLargest *= 10;
+        const FieldRow& size = aTable.Row(aTable.Link(index).ref);
+        const std::uint64_t base = size.IsBinary() ? 256 : 10;
+        std::uint64_t largest = 0;
+        for (std::uint32_t digit = 0; digit != size.width; ++digit) {
+            largest = largest > (UINT64_MAX - base) / base ? UINT64_MAX : largest * base + (base - 1);
         }
-        aLargest -= 1 + static_cast<std::size_t>(row.sizeAdjust < 0 ? -row.sizeAdjust : 0);
+        const auto adjust = static_cast<std::uint64_t>(std::int64_t{row.sizeAdjust});
+        aLargest = static_cast<std::size_t>(largest == UINT64_MAX ? largest : largest + adjust);
+        aSmallest = static_cast<std::size_t>(std::max(row.sizeAdjust, 0));
     }
     return true;
 }

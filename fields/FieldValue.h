@@ -16,6 +16,7 @@ namespace ORMO::SensorModel::CSM::Detail {
 [[nodiscard]] bool IsIntegral(const FieldRow& aRow) noexcept;
 
 /// The value as a number, by the conversion rules of CSMUtilString for text and by the byte order for binary fields.
+/// The value is one of a store, with the NUL that follows it there.
 /// False when the value is no such number or does not fit.
 [[nodiscard]] bool ValueAsInt64(const FieldRow& aRow, std::string_view aValue, Util::CSMCnst::ByteOrder aOrder,
                                 std::int64_t& aOut);

@@ -226,7 +226,11 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
         }
         if (left == m_cursor.Remaining()) {
             if (entries == m_store.m_entries.size()) {
-                break;  // nothing was read, so every further turn would find the same
+                // Every further turn would find the same, unless a function looks at the fields of that same turn.
+                if (turn >= entries || !HasFunction(aRow)) {
+                    break;
+                }
+                continue;
             }
             // The second bound is for nested loops, whose few empty turns would multiply.
             if (isClaimed &&
@@ -238,6 +242,13 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
     m_turns[aDepth] = 0;
     m_store.Forget(aRow, link.end);
     return true;
+}
+
+bool FieldWalk::HasFunction(std::size_t aGroup) const noexcept
+{
+    const auto body = m_table.Rows().subspan(aGroup, m_table.Link(aGroup).end - aGroup).subspan(1);
+    return std::any_of(body.begin(), body.end(),
+                       [](const FieldRow& aRow) { return aRow.count != nullptr || aRow.condition != nullptr; });
 }
 
 bool FieldWalk::Holds(std::size_t aRow, bool& aOut)

@@ -91,6 +91,7 @@ private:
     [[nodiscard]] bool RepeatCount(std::size_t aRow, std::uint64_t& aOut);
     [[nodiscard]] bool Holds(std::size_t aRow, bool& aOut);
     [[nodiscard]] bool CountOf(std::uint16_t aRow, std::uint64_t& aOut) const noexcept;
+    bool HasFunction(std::size_t aGroup) const noexcept;
     std::uint64_t LeastNow(std::size_t aGroup, std::size_t aOuter);
     bool Fail(Fault aFault, std::size_t aRow, std::uint64_t aWanted);
     bool FailAtReference(Fault aFault, std::size_t aRow, std::uint64_t aWanted);

@@ -1,6 +1,7 @@
 #include "raster/GDALNITFFileReader.h"
 
 #include "fields/ByteSource.h"
+#include "fields/MessageText.h"
 #include "foundation/CSMUtilString.h"
 #include "nitf/NITFCnst.h"
 
@@ -52,6 +53,19 @@ bool GDALNITFFileReader::IsNITFFile(const unsigned char* aHeaderBytes, std::size
     }
     aVersion = Identify({bytes.data(), bytes.size()});
     return aVersion != NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+}
+
+std::string GDALNITFFileReader::WhyNotNITFFile(const char* aPath)
+{
+    const std::string path = Util::CSMUtilString::Trim(aPath == nullptr ? "" : aPath);
+    std::string reason;
+    const std::unique_ptr<Detail::ByteSource> file = Detail::ByteSource::Open(path, reason);
+    std::string bytes;
+    if (file == nullptr || !file->ReadUpTo(0, IDENTITY_LENGTH, bytes)) {
+        return reason;
+    }
+    return "field FHDR at byte offset 0 is " + Detail::Shown(bytes) +
+           (bytes.size() < IDENTITY_LENGTH ? ", the file ends at " + std::to_string(bytes.size()) : "");
 }
 
 }  // namespace ORMO::SensorModel::CSM

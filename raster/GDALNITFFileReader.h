@@ -3,6 +3,7 @@
 #include "foundation/Export.h"
 
 #include <cstddef>
+#include <string>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -17,6 +18,10 @@ public:
 
     /// The same for the first bytes of a file, of which nine decide.
     static bool IsNITFFile(const unsigned char* aHeaderBytes, std::size_t aLength, int& aVersion) noexcept;
+
+    /// Why a file is none that IsNITFFile recognises: the system's reason, or the bytes that stand in place of FHDR.
+    /// Never waits.
+    static std::string WhyNotNITFFile(const char* aPath);
 
 private:
     GDALNITFFileReader();

@@ -92,7 +92,7 @@ bool NITFFieldSegment::CloneObj(const NITFStdDataSegment& aOther)
 void NITFFieldSegment::Assign(const NITFStdDataSegment& aOther)
 {
     if (this != &aOther && !CloneObj(aOther)) {
-        const std::string owner = Words().owner;
+        const std::string owner = Words().className != nullptr ? Words().className : Words().owner;
         throw RequestedOperationFailedException(
             ("ERROR: System failed to assign all the member variables of one " + owner + " to another.").c_str(),
             (owner + "::Assign").c_str());
@@ -270,10 +270,20 @@ bool NITFFieldSegment::GetFieldAt(std::size_t aIndex, std::string& aName, const 
     return true;
 }
 
+const char* NITFFieldSegment::TreRefusal() const noexcept
+{
+    return nullptr;
+}
+
+const TREStore& NITFFieldSegment::QueriedTREs() const noexcept
+{
+    return m_contents->tres;
+}
+
 const TRE* NITFFieldSegment::FirstTRE(std::string_view aTag) const
 {
     const std::string tag(aTag);
-    const std::vector<TRE*>* tres = m_contents->tres.Find(tag.c_str());
+    const std::vector<TRE*>* tres = QueriedTREs().Find(tag.c_str());
     tres = tres == nullptr ? GetOverflowTREStore().Find(tag.c_str()) : tres;
     return tres == nullptr ? nullptr : tres->front();
 }
@@ -285,8 +295,8 @@ std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aT
     if (name.empty()) {
         const Detail::SegmentWords& words = Words();
         AddError(!Detail::Trimmed(aTreTag).empty() ? words.emptyTreName
-                 : aText                             ? words.emptyTextName
-                                                     : words.emptyName);
+                 : aText                           ? words.emptyTextName
+                                                   : words.emptyName);
     }
     return name;
 }
@@ -365,12 +375,17 @@ bool NITFFieldSegment::Number(const char* aName, Value& aValue, const char* aTre
         if (tre != nullptr && aOfTre(*tre, aValue)) {
             return true;
         }
-        AddError(Words().requestedTre + Quoted(name) + (aReal ? NOT_REAL : NOT_POSITIVE_INTEGRAL));
+        const char* const reason = Words().isNotAField == nullptr ? " not found."
+                                   : aReal                        ? NOT_REAL
+                                                                  : NOT_POSITIVE_INTEGRAL;
+        AddError(Words().requestedTre + Quoted(name) + reason);
         return false;
     }
     const FieldEntry* const entry = m_contents->fields.Find(name);
     if (entry == nullptr) {
-        AddError("ERROR: Data type of " + Quoted(name) + Words().isNotAField);
+        const Detail::SegmentWords& words = Words();
+        AddError(words.isNotAField == nullptr ? words.requested + Quoted(name) + words.notFound
+                                              : "ERROR: Data type of " + Quoted(name) + words.isNotAField);
         return false;
     }
     const FieldRow& row = m_contents->fields.Row(*entry);
@@ -496,7 +511,7 @@ bool NITFFieldSegment::GetTRE(const char* aTag, const TRE**& aArray, std::size_t
 {
     aArray = nullptr;
     aCount = 0;
-    const std::vector<TRE*>* const own = m_contents->tres.Find(aTag);
+    const std::vector<TRE*>* const own = QueriedTREs().Find(aTag);
     const std::vector<TRE*>* const overflow = aIncludeOverflow ? GetOverflowTREStore().Find(aTag) : nullptr;
     const std::size_t total = (own == nullptr ? 0 : own->size()) + (overflow == nullptr ? 0 : overflow->size());
     if (total == 0) {
@@ -515,7 +530,7 @@ bool NITFFieldSegment::GetTRE(const char* aTag, const TRE**& aArray, std::size_t
 
 bool NITFFieldSegment::GetAllTREs(const TRE**& aArray, std::size_t& aCount, bool aIncludeOverflow) const
 {
-    const TREStore& own = m_contents->tres;
+    const TREStore& own = QueriedTREs();
     const TREStore& overflow = GetOverflowTREStore();
     if (!aIncludeOverflow || overflow.IsEmpty()) {
         return RetrieveTREs(own, aArray, aCount);

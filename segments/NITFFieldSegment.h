@@ -15,6 +15,7 @@ namespace ORMO::SensorModel::CSM {
 class RawNITFMetadataStdDataSegment;
 
 namespace Detail {
+class Findings;
 struct SegmentContents;
 struct SegmentViews;
 struct SegmentWords;
@@ -53,6 +54,9 @@ public:
     bool IsBinaryField(const char* aName) const override;
     bool IsFieldEditable(const char* aName, const char* aTreTag = nullptr) const override;
     bool IsTREOfThisDataSegment(const char* aTag) const override;
+    /// Holds every field against the rule of its row, the TREs against theirs, and what the fields say against one
+    /// another. The lines stand in GetErrorMessage and GetWarningMessage afterwards.
+    bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
     const Detail::FieldTable& GetFieldTable() const override;
 
     /// Number of fields that were read.
@@ -93,6 +97,14 @@ protected:
     /// What a read that failed has to say in place of the shared texts; empty for the shared ones.
     virtual std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const;
 
+    /// Why a query with a TRE tag can have no answer, whatever the tag; null when it can.
+    virtual const char* TreRefusal() const noexcept;
+    /// The TREs that queries by tag look at besides the overflow ones: those of the extension areas, unless a kind of
+    /// segment keeps others.
+    virtual const TREStore& QueriedTREs() const noexcept;
+    /// The checks of RigorousValidation; a kind of segment adds its own to those of its base.
+    virtual void Validate(Detail::Findings& aFindings) const;
+
     /// Reads the fields of a raw header that begins at a byte offset of the file. On failure the texts are appended to
     /// `aErrors` and nothing is kept. The number of bytes that the table consumed goes into `aConsumed`.
     bool ReadFields(std::string aRaw, std::uint64_t aFileOffset, std::uint64_t& aConsumed, std::string& aErrors);
@@ -109,7 +121,8 @@ protected:
     void AddSurplusWarning(std::uint64_t aConsumed);
     /// The header with its TREs as raw metadata.
     std::unique_ptr<RawNITFMetadataStdDataSegment> MakeRawMetadata() const;
-    void AppendFieldElements(std::string& aXml) const;
+    /// Writes one element per field, that of `aLeftOut` left out. Answers the number of fields.
+    std::size_t AppendFieldElements(std::string& aXml, std::string_view aLeftOut = {}) const;
     void AppendTREElements(std::string& aXml) const;
 
     Detail::SegmentContents& Contents() noexcept { return *m_contents; }

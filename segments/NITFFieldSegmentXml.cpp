@@ -1,6 +1,7 @@
 // The XML of a header's fields and TREs, and the header as raw metadata.
 
 #include "fields/FieldStore.h"
+#include "fields/FieldXml.h"
 #include "fields/Xml.h"
 #include "foundation/CSMUtilString.h"
 #include "segments/NITFFieldSegment.h"
@@ -11,40 +12,29 @@
 
 namespace ORMO::SensorModel::CSM {
 
-void NITFFieldSegment::AppendFieldElements(std::string& aXml) const
+std::size_t NITFFieldSegment::AppendFieldElements(std::string& aXml, std::string_view aLeftOut) const
 {
     const Detail::FieldStore& fields = Contents().fields;
     const Detail::SegmentWords& words = Words();
-    std::string name;
+    std::size_t position = 0;
     for (const Detail::FieldEntry& entry : fields.Entries()) {
-        const Detail::FieldRow& row = fields.Row(entry);
-        name.clear();
-        fields.AppendName(entry, name);
-        aXml += words.indent;
-        aXml += '<';
-        aXml += words.element;
-        Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_FIELD, name, aXml);
-        Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_NAME, row.label, aXml);
-        Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_SIZE, std::to_string(entry.length), aXml);
-        Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_TYPE,
-                                   NITFCnst::GetFieldTypeForDisplay(static_cast<NITFCnst::FieldType>(row.need)), aXml);
-        Detail::AppendXmlAttribute(
-            NITFCnst::XML_ATTR_EDITABLE,
-            fields.Table().IsEditable(entry.row) ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE,
-            aXml);
-        Detail::AppendXmlValueAndEnd(words.element, fields.Value(entry), aXml);
+        ++position;
+        if (aLeftOut != fields.Row(entry).tag) {
+            Detail::AppendFieldElement(fields, entry, words.naming, position, words.indent, words.element, aXml);
+        }
     }
+    return position;
 }
 
 void NITFFieldSegment::AppendTREElements(std::string& aXml) const
 {
-    const std::size_t total = GetTREStore().Size() + GetOverflowTREStore().Size();
+    const std::size_t total = QueriedTREs().Size() + GetOverflowTREStore().Size();
     if (total == 0) {
         return;
     }
     aXml += "    <TREs total=\"" + std::to_string(total) + "\">\n";
     int index = 0;
-    for (const TREStore* const store : {&GetTREStore(), &GetOverflowTREStore()}) {
+    for (const TREStore* const store : {&QueriedTREs(), &GetOverflowTREStore()}) {
         for (const TRE* const tre : store->InOrder()) {
             tre->AppendXml(aXml, GetClassification(), index++);
         }
@@ -78,7 +68,7 @@ std::unique_ptr<RawNITFMetadataStdDataSegment> NITFFieldSegment::MakeRawMetadata
     }
     auto metadata = std::make_unique<RawNITFMetadataStdDataSegment>(std::move(contents));
     const auto& overflow = GetOverflowTREStore().InOrder();
-    metadata->SetTRERawNITFMetadata(GetTREStore(), {overflow.begin(), overflow.end()});
+    metadata->SetTRERawNITFMetadata(QueriedTREs(), {overflow.begin(), overflow.end()});
     return metadata;
 }
 

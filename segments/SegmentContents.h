@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields/FieldStore.h"
+#include "fields/FieldXml.h"
 #include "tre/TREStore.h"
 
 #include <map>
@@ -27,7 +28,11 @@ struct SegmentWords
     const char* requested;      ///< opens the text of a field that is not there
     const char* notFound;       ///< closes it
     const char* requestedTre;   ///< opens the text of a TRE field that is not there
-    const char* isNotAField;    ///< closes the text of a numeric query for a field that is not there
+    /// Closes the text of a numeric query for a field that is not there; null when such queries have the texts of all
+    /// others.
+    const char* isNotAField;
+    FieldNaming naming = FieldNaming::TagAndLongName;  ///< how the XML element of a field names it
+    const char* className = nullptr;                   ///< in the texts of assignments; null when it is the owner
 };
 
 /// Maps and lists over the fields of a header, made when somebody asks for them.

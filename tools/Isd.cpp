@@ -3,6 +3,7 @@
 #include "foundation/CSMExceptions.h"
 #include "isd/ImageSupportDataFactory.h"
 #include "isd/ImageSupportDataNITFFactory.h"
+#include "raster/GDALNITFFileReader.h"
 
 #include <iostream>
 #include <new>
@@ -40,15 +41,17 @@ namespace {
 std::string UnidentifiedReason(const std::string& aPath)
 {
     ImageSupportDataNITF* isd = nullptr;
+    std::string reason;
     try {
         ImageSupportDataNITFFactory::Create(aPath.c_str(), &isd, true, false, -1,
                                             NITFCnst::NITF_VERSION_NUMBER_UNKNOWN);
+        const char* const message = ImageSupportDataNITFFactory::GetErrorMessage();
+        reason = message == nullptr ? "" : message;
     } catch (const CSMException& exception) {
-        return exception.GetAdditionalMessage();
+        reason = exception.GetAdditionalMessage();
     }
-    const char* const reason = ImageSupportDataNITFFactory::GetErrorMessage();
     ImageSupportDataNITFFactory::Destroy(&isd);
-    return reason == nullptr ? std::string() : std::string(reason);
+    return reason + " [" + GDALNITFFileReader::WhyNotNITFFile(aPath.c_str()) + "]";
 }
 
 }  // namespace
@@ -58,9 +61,8 @@ Isd OpenFile(const std::string& aPath, bool aImagesOnly)
     ImageSupportData* isd = nullptr;
     try {
         ImageSupportDataFactory::Create(aPath.c_str(), &isd, !aImagesOnly, false);
-    } catch (const std::invalid_argument& exception) {
-        const std::string reason = UnidentifiedReason(aPath);
-        PrintProblem(aPath, reason.empty() ? exception.what() : reason);
+    } catch (const std::invalid_argument&) {
+        PrintProblem(aPath, UnidentifiedReason(aPath));
         return nullptr;
     } catch (const CSMException& exception) {
         const std::string text = exception.GetAdditionalMessage();

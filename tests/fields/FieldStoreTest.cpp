@@ -9,7 +9,7 @@
 namespace ORMO::SensorModel::CSM::Detail {
 namespace {
 
-constexpr FieldRow ROWS[] = {F("A", 2), F("B", 3), S("C", "A", -1), F("D", 4), Times(3), F("E", 1), End()};
+constexpr FieldRow ROWS[] = {F("A", 2), F("B", 3), S("C", "A"), F("D", 4), Times(3), F("E", 1), End()};
 constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 
@@ -25,7 +25,7 @@ std::string Positions(const FieldStore& aStore)
 TEST(FieldStoreTest, PositionsStayWhereTheFieldsWereReadWhateverIsReplaced)
 {
     const std::string positions = "0 2 5 5 9 10 11 ";
-    const Walked walked(TABLE.View(), "01bbbddddxyz");
+    const Walked walked(TABLE.View(), "00bbbddddxyz");
     ASSERT_TRUE(walked.result.IsGood());
     ASSERT_EQ(positions, Positions(walked.store));
     // Each pair in both orders: neighbours, the field without bytes, the first and the last one.
@@ -44,7 +44,7 @@ TEST(FieldStoreTest, PositionsStayWhereTheFieldsWereReadWhateverIsReplaced)
 
 TEST(FieldStoreTest, ReplaceTakesAPartOfAnotherValue)
 {
-    Walked walked(TABLE.View(), "01bbbwxyz123");
+    Walked walked(TABLE.View(), "00bbbwxyz123");
     FieldStore& store = walked.store;
     for (int i = 0; i != 100; ++i) {  // the arena grows under the view
         store.Replace(*store.Find("C"), store.Value(*store.Find("D")).substr(1));
@@ -52,14 +52,14 @@ TEST(FieldStoreTest, ReplaceTakesAPartOfAnotherValue)
     EXPECT_EQ("xyz", store.Value(*store.Find("C")));
     EXPECT_EQ('\0', store.Value(*store.Find("C")).data()[3]);
     EXPECT_EQ("wxyz", store.Value(*store.Find("D")));
-    ASSERT_TRUE(FieldWalk::Read("03bbbccddddxyz", store).IsGood());
+    ASSERT_TRUE(FieldWalk::Read("02bbbccddddxyz", store).IsGood());
     EXPECT_EQ("0 2 5 7 11 12 13 ", Positions(store));
 }
 
 TEST(FieldStoreTest, EveryValueKeepsItsBytesAndEndsWithANul)
 {
     using namespace std::string_view_literals;
-    const Walked walked(TABLE.View(), "01b\0b\xFF\0\0d\n\0z"sv);
+    const Walked walked(TABLE.View(), "00b\0b\xFF\0\0d\n\0z"sv);
     ASSERT_TRUE(walked.result.IsGood());
     EXPECT_EQ("b\0b"sv, walked.store.Value(*walked.store.Find("B")));
     EXPECT_EQ("\xFF\0\0d"sv, walked.store.Value(*walked.store.Find("D")));
@@ -70,7 +70,7 @@ TEST(FieldStoreTest, EveryValueKeepsItsBytesAndEndsWithANul)
 
 TEST(FieldStoreTest, FindTellsAnEmptyValueFromAnAbsentField)
 {
-    const Walked walked(TABLE.View(), "01bbbddddx");
+    const Walked walked(TABLE.View(), "00bbbddddx");
     ASSERT_EQ(Fault::Short, walked.result.fault);
     bool found = false;
     EXPECT_EQ("", walked.store.Find("C", found));

@@ -163,6 +163,28 @@ TEST(FieldTableTest, FixedWidthLeavesOutWhatMayBeAbsent)
     EXPECT_EQ(10U, TABLE.View().FieldCount() + 2);
 }
 
+TEST(FieldTableTest, WidthsGivenByAnotherFieldGoUpToWhatItCanHold)
+{
+    static constexpr FieldRow ROWS[] = {
+        F("A", 5),        F("B", 2, Form::Unsigned), F("C", 20),   F("D", 8, Form::Unsigned),
+        S("AT", "A", -3), S("BT", "B", 1),           S("CT", "C"), S("DT", "D", 7)};
+    static constexpr auto TABLE = MakeTable(ROWS);
+    static_assert(TABLE.wellFormed);
+    const auto range = [](const char* aTag) {
+        std::size_t smallest = 77;
+        std::size_t largest = 77;
+        EXPECT_TRUE(WidthRange(TABLE.View(), aTag, smallest, largest));
+        return std::to_string(smallest) + ".." + std::to_string(largest);
+    };
+    EXPECT_EQ("5..5", range("A"));
+    EXPECT_EQ("0..99996", range("AT"));
+    EXPECT_EQ("1..65536", range("BT"));
+    EXPECT_EQ("0..18446744073709551615", range("CT"));
+    EXPECT_EQ("7..18446744073709551615", range("DT"));
+    std::size_t width = 0;
+    EXPECT_FALSE(WidthRange(TABLE.View(), "E", width, width));
+}
+
 constexpr std::size_t RANDOM_ROWS = 24;
 
 /// Rows of a random shape: short tags that often begin with one another, nested loops and conditions.

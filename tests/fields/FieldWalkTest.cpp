@@ -31,11 +31,11 @@ TEST(FieldWalkTest, FixedSizedComputedAndRestFieldsTakeTheirBytes)
     EXPECT_EQ(12U, walked.result.consumed);
     EXPECT_EQ("LEN=04 BODY=b MORE=mmmmm HALF=hh TAIL=tt", walked.fields);
 
-    const Walked empty(TABLE.View(), "03mmmmhhtt");  // BODY has no bytes, so HALF's function says no
+    const Walked empty(TABLE.View(), "03mmmmhhtt");  // BODY does not stand, so HALF's function says no
     EXPECT_EQ(Fault::NotANumber, empty.result.fault);
     EXPECT_EQ("HALF", empty.Culprit());
     EXPECT_EQ(6U, empty.result.offset);
-    EXPECT_EQ("LEN=03 BODY= MORE=mmmm", empty.fields);
+    EXPECT_EQ("LEN=03 MORE=mmmm", empty.fields);
 }
 
 constexpr FieldRow NESTED_ROWS[] = {F("N", 1), Repeat("N"), F("M", 1), Repeat("M"), F("A", 1), Times(2),
@@ -205,6 +205,31 @@ TEST(FieldWalkTest, FunctionsDoNotSeeTheTurnsOfALoopThatHasEnded)
     static constexpr auto TABLE = MakeTable(ROWS);
     static_assert(TABLE.wellFormed);
     EXPECT_EQ("A_1=a A_2=a C_1=c C_2=c", Walked(TABLE.View(), "aaccb").fields);
+}
+
+TEST(FieldWalkTest, FunctionsSeeTheSameTurnOfALoopThatHasEndedWhereTheyAskForIt)
+{
+    static constexpr FieldRow ROWS[] = {F("N", 19),
+                                        Times(4),
+                                        F("SIZE", 1),
+                                        End(),
+                                        Repeat("N"),
+                                        WhenBy("SIZE is not zero",
+                                               [](const WalkContext& aContext) {
+                                                   std::uint64_t size = 0;
+                                                   return aContext.CountInTurn("SIZE", aContext.Turn(), size) &&
+                                                          size != 0;
+                                               }),
+                                        F("A", 1),
+                                        End(),
+                                        End(),
+                                        F("Z", 1)};
+    static constexpr auto TABLE = MakeTable(ROWS);
+    static_assert(TABLE.wellFormed);
+    const std::string sizes = " SIZE_1=0 SIZE_2=1 SIZE_3=0 SIZE_4=2";
+    for (const std::string count : {"0000000000000000004", "9999999999999999999"}) {  // turns that end and do not end
+        EXPECT_EQ("N=" + count + sizes + " A_2=a A_4=a Z=z", Walked(TABLE.View(), count + "0102aaz").fields);
+    }
 }
 
 TEST(FieldWalkTest, LoopAfterALoopThatBrokeOffNamesItsOwnTurns)

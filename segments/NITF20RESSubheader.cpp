@@ -1,0 +1,90 @@
+#include "segments/NITF20RESSubheader.h"
+
+#include "fields/FieldTable.h"
+#include "fields/FieldWalk.h"
+#include "foundation/Ascii.h"
+#include "segments/SecurityRows.h"
+#include "segments/SegmentContents.h"
+
+#include <utility>
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+using namespace Detail;
+using enum Detail::Need;
+using enum Detail::Form;
+
+// MIL-STD-2500A; rests on readers of such files alone.
+// clang-format off
+constexpr FieldRow ROWS[] = {
+    Field("RE",       2, Required,        Text,        "RE", "", "File Part Type [RE]"),
+    Field("RESID",   25, Required,        Text,        "", "", "Unique RES Type Identifier").Locked(),
+    Field("RESVER",   2, Required,        Digits,      "01..99", "", "Version of the Data Field Definition [01-99]").Locked(),
+    ORMO_SECURITY_ROWS_20("RES", "RES"),
+    Field("RESSHL",   4, Required,        Digits,      "0000..9999", "", "Length of RES-defined Subheader Fields [0000-9999]"),
+    WhenPositive("RESSHL"),
+        Sized("RESSHF", "RESSHL", 0, Conditional,     Utf8,        "", "", "RES-defined Subheader Fields"),
+    End(),
+};
+// clang-format on
+constexpr auto TABLE = MakeTable(ROWS);
+static_assert(TABLE.wellFormed);
+static_assert(FixedWidth(ROWS) == 200);
+
+constexpr SegmentWords WORDS{
+    .owner = NITFCnst::XML_ELEMENT_RESERVED_EXTENSION_SEGMENT,
+    .element = NITFCnst::XML_ELEMENT_RES_FIELD,
+    .indent = "      ",
+    .requiredPrefix = "ERROR: Failed to extract RES required field ",
+    .conditionalPrefix = "ERROR: Failed to extract RES conditional field ",
+    .streamSuffix = " from the RES subheader data stream.",
+    .summary =
+        "ERROR: Failed to get all the NITF 2.0 RES subheader field values from the input RES subheader data stream.",
+    .emptyName = "ERROR: NULL/empty input NITF RES subheader field name string.",
+    .emptyTextName = "ERROR: NULL/empty input NITF RES subheader field name string.",
+    .emptyTreName = "ERROR: NULL/empty input NITF RES subheader field name string.",
+    .requested = "ERROR: Requested NITF RES subheader field ",
+    .notFound = " not found.",
+    .requestedTre = "ERROR: Requested NITF RES subheader field ",
+    .isNotAField = nullptr,
+    .naming = FieldNaming::PositionAndTag,
+    .className = "NITF20RESSubheader"};
+
+}  // namespace
+
+NITF20RESSubheader::NITF20RESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
+                                       const char* aVersionText, std::shared_ptr<const Detail::ByteSource> aSource,
+                                       Util::CSMCnst::ByteOrder, bool)
+    : NITFRESSubheader(aVersionText, Table())
+{
+    InitNITFRES(aRaw, aLength, aInfo, std::move(aSource), "NITF20RESSubheader::InitNITF20RESSubheader");
+}
+
+NITF20RESSubheader::NITF20RESSubheader(const NITF20RESSubheader& aOther) = default;
+NITF20RESSubheader::~NITF20RESSubheader() = default;
+
+NITF20RESSubheader& NITF20RESSubheader::operator=(const NITF20RESSubheader& aOther)
+{
+    Assign(aOther);
+    return *this;
+}
+
+const Detail::FieldTable& NITF20RESSubheader::Table() noexcept
+{
+    static constexpr FieldTable table = TABLE.View();
+    return table;
+}
+
+bool NITF20RESSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
+{
+    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+}
+
+const Detail::SegmentWords& NITF20RESSubheader::Words() const
+{
+    return WORDS;
+}
+
+}  // namespace ORMO::SensorModel::CSM

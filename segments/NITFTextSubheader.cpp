@@ -1,0 +1,93 @@
+#include "segments/NITFTextSubheader.h"
+
+#include "fields/FieldWalk.h"
+#include "fields/MessageText.h"
+#include "fields/Number.h"
+#include "foundation/Ascii.h"
+#include "segments/Findings.h"
+#include "segments/SegmentContents.h"
+#include "segments/SegmentData.h"
+#include "segments/TextCheck.h"
+
+#include <utility>
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+constexpr std::uint64_t MOST_ATTACHMENT_LEVEL = 998;
+
+}  // namespace
+
+NITFTextSubheader::NITFTextSubheader(const char* aVersionText, const Detail::FieldTable& aTable)
+    : NITFDataSegment(aVersionText, NITFCnst::DATA_SEGMENT_TYPE_TEXT, aTable)
+{
+}
+
+NITFTextSubheader::NITFTextSubheader(const NITFTextSubheader& aOther) = default;
+NITFTextSubheader::~NITFTextSubheader() = default;
+
+std::string NITFTextSubheader::FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const
+{
+    return aResult.fault == Detail::Fault::Short
+               ? std::string()
+               : "ERROR: Value of text subheader field " + Detail::Quoted(aTag) + " is invalid.";
+}
+
+std::string NITFTextSubheader::DataFaultText() const
+{
+    return Data().HasSource() ? "ERROR: Failed to copy input text data."
+                              : "ERROR: Text segment subheader data stream has not been properly initialized.";
+}
+
+void NITFTextSubheader::InitNITFTextSegment(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
+                                            std::shared_ptr<const Detail::ByteSource> aSource,
+                                            Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly,
+                                            const char* aReader)
+{
+    ReadSubheader(aRaw, aLength, aInfo, std::move(aSource), "NITFTextSubheader::InitNITFTextSegment", aReader);
+    ReadTREs("TXSHD", aSpecificOnly, false, TRE::TRE_TYPE_CONTROLLED_EXTENSION, aByteOrder);
+    SetAttachmentLevel();
+}
+
+bool NITFTextSubheader::SetAttachmentLevel()
+{
+    std::uint64_t level = 0;
+    if (!Detail::ToCount(FieldText(NITFCnst::NITF21_TS_FIELD_TXTALVL), level) || level > MOST_ATTACHMENT_LEVEL) {
+        return false;
+    }
+    SetLevels(GetDataSegmentDisplayLevel(), level);
+    return true;
+}
+
+std::string NITFTextSubheader::GetTextFormat() const
+{
+    return std::string(Detail::Trimmed(FieldText("TXTFMT")));
+}
+
+unsigned long NITFTextSubheader::GetOverflowTextExtendedSubheaderData() const noexcept
+{
+    return static_cast<unsigned long>(NumberOf(NITFCnst::NITF_TS_FIELD_TXSOFL));
+}
+
+void NITFTextSubheader::AppendDataElements(std::string& aXml) const
+{
+    AppendDataElement(NITFCnst::XML_ELEMENT_TS_DATA, aXml);
+}
+
+void NITFTextSubheader::Validate(Detail::Findings& aFindings) const
+{
+    NITFDataSegment::Validate(aFindings);
+    std::string text;
+    if (!Data().Read(text)) {
+        return;  // whoever read the file has warned of it
+    }
+    const Detail::TextFault fault = Detail::CheckText(text, GetTextFormat());
+    if (fault.reason != nullptr) {
+        aFindings.AddError("ERROR: The text of " + std::string(Words().owner) + " does not fit its TXTFMT " +
+                           Detail::Quoted(GetTextFormat()) + ": " + fault.reason + " at byte offset " +
+                           std::to_string(Data().Start() + fault.offset) + ".");
+    }
+}
+
+}  // namespace ORMO::SensorModel::CSM
