@@ -34,7 +34,8 @@ public:
         Assign(aOther);
         return *this;
     }
-    bool operator==(const Segment& aOther) const { return NITFStdDataSegment::operator==(aOther); }
+    using NITFStdDataSegment::operator=;
+    using NITFStdDataSegment::operator==;
 
     const FieldTexts* GetFieldEditabilityMap() const override { return hasMap ? &editability : nullptr; }
     Util::CSMCnst::DataType GetFieldValueDataType(const char*) const override

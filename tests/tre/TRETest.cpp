@@ -50,6 +50,7 @@ public:
     {
     }
     using TRE::CheckCEREDATALength;
+    using TRE::operator=;
     using TRE::GetNITFTreFieldValueDataTypesMap;
     using TRE::Swap;
 
