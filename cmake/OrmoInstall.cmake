@@ -15,8 +15,8 @@ file(
 # Internals: headers that name no exported class.
 set(ORMO_INTERNAL_HEADERS)
 foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
-    file(STRINGS "${PROJECT_SOURCE_DIR}/${header}" exported REGEX "ORMO_CSM_API|CSM_API_DOOR" LIMIT_COUNT 1)
-    if(NOT exported AND NOT header MATCHES "foundation/(CSMApi|CharStrCompare)\\.h$")
+    file(STRINGS "${PROJECT_SOURCE_DIR}/${header}" exported REGEX "ORMO_CSM_API" LIMIT_COUNT 1)
+    if(NOT exported AND NOT header MATCHES "foundation/(Automation|CSMApi|CharStrCompare)\\.h$")
         list(APPEND ORMO_INTERNAL_HEADERS "${header}")
     endif()
 endforeach()

@@ -1,16 +1,24 @@
 #include "segments/NITFDESSubheader.h"
 
 #include "fields/FieldWalk.h"
+#include "fields/FieldXml.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "foundation/Ascii.h"
+#include "foundation/CSMMsg.h"
+#include "foundation/CSMUtilString.h"
 #include "segments/Findings.h"
 #include "segments/SegmentContents.h"
 #include "segments/SegmentData.h"
+#include "segments/des/DesDESDATA.h"
+#include "segments/des/DesDESSHF.h"
+#include "segments/des/SupportedDESDATAs.h"
+#include "segments/des/SupportedDESSHFs.h"
 #include "tre/TREFactory.h"
 
 #include <algorithm>
 #include <array>
+#include <mutex>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
@@ -47,8 +55,18 @@ std::string InvalidValue(const char* aField)
 
 }  // namespace
 
+/// The data cut into fields, or why they cannot be.
+struct NITFDESSubheader::TypedData
+{
+    std::mutex guard;
+    bool tried = false;
+    std::unique_ptr<DesDESDATA> fields;
+    std::string fault;
+};
+
 NITFDESSubheader::NITFDESSubheader(const char* aVersionText, const Detail::FieldTable& aTable)
-    : NITFDataSegment(aVersionText, NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aTable)
+    : NITFDataSegment(aVersionText, NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aTable),
+      m_typedData(std::make_shared<TypedData>())
 {
 }
 
@@ -78,6 +96,8 @@ bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
     m_targetKind = other->m_targetKind;
     m_targetIndex = other->m_targetIndex;
     m_targetArea = other->m_targetArea;
+    m_subheader = other->m_subheader;
+    m_typedData = other->m_typedData;
     return true;
 }
 
@@ -95,6 +115,8 @@ void NITFDESSubheader::Swap(NITFStdDataSegment& aOther) noexcept
     std::swap(m_targetIndex, other->m_targetIndex);
     std::swap(m_targetArea, other->m_targetArea);
     std::swap(m_carried, other->m_carried);
+    std::swap(m_subheader, other->m_subheader);
+    std::swap(m_typedData, other->m_typedData);
 }
 
 std::string NITFDESSubheader::FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const
@@ -121,6 +143,7 @@ void NITFDESSubheader::InitNITFDES(const char* aRaw, long aLength, const NITFStd
     m_isOverflow = IsOverflowType(type);
     m_isStreaming = type == NITFCnst::DES_DESID_STREAMING_FILE_HEADER;
     if (!m_isOverflow) {
+        InitDESSHF();
         return;
     }
     const std::string fault = LinkFault();
@@ -193,14 +216,118 @@ void NITFDESSubheader::InitOverflowTREs(bool aSpecificOnly, Util::CSMCnst::ByteO
     }
 }
 
+void NITFDESSubheader::InitDESSHF()
+{
+    const std::string type = GetDESTypeID();
+    const std::string_view fields = FieldText(NITFCnst::NITF_DES_FIELD_DESSHF);
+    const bool mayBeEmpty = type == SupportedDESSHFs::XML_DATA_CONTENT;
+    if (!SupportedDESSHFs::AbleToCreateDESSHF(type.c_str()) || (fields.empty() && mayBeEmpty)) {
+        return;
+    }
+    DesDESSHF* made = nullptr;
+    char* message = nullptr;
+    if (SupportedDESSHFs::CreateDESSHF(type.c_str(), fields.data(), fields.size(), &made, &message)) {
+        m_subheader.reset(made);
+        return;
+    }
+    // The DES is not lost: its subheader fields stay one field, as those of a type that nobody knows.
+    std::string reason(message == nullptr ? "" : message);
+    Util::CSMUtilString::DeleteCString(message);
+    reason.erase(0, reason.rfind("ERROR: ") + std::string_view("ERROR: ").size());
+    AddWarning("WARN: The DESSHF of the DES at byte offset " + std::to_string(FileOffset()) +
+               " does not fit its type " + Detail::Quoted(type) + " and is kept as it stands: " + reason);
+}
+
+const DesDESDATA* NITFDESSubheader::GetDESDATAFields(std::string* aErrors) const
+{
+    TypedData& typed = *m_typedData;
+    const std::lock_guard lock(typed.guard);
+    if (!typed.tried) {
+        const std::string type = GetDESTypeID();
+        std::string data;
+        // Only the data of a known type are read at all.
+        const bool known = SupportedDESDATAs::AbleToCreateDESDATA(type.c_str());
+        if (known && !Data().Read(data)) {
+            typed.fault = "ERROR: The data of the DES are not available: " + Data().Fault() + ".";
+        } else {
+            DesDESDATA* made = nullptr;
+            char* message = nullptr;
+            SupportedDESDATAs::CreateDESDATA(type.c_str(), known ? data.data() : "", known ? data.size() : 1, &made,
+                                             &message);
+            typed.fields.reset(made);
+            typed.fault = message == nullptr ? "" : message;
+            Util::CSMUtilString::DeleteCString(message);
+        }
+        typed.tried = true;
+    }
+    if (typed.fields == nullptr && aErrors != nullptr) {
+        Detail::AppendBlock(*aErrors, typed.fault);
+    }
+    return typed.fields.get();
+}
+
+std::string_view NITFDESSubheader::FieldLeftOut() const noexcept
+{
+    return m_subheader == nullptr ? "" : NITFCnst::NITF_DES_FIELD_DESSHF;
+}
+
 void NITFDESSubheader::AppendDataElements(std::string& aXml) const
 {
+    const Detail::FieldStore& fields = Contents().fields;
+    const Detail::FieldEntry* const entry = fields.Find(FieldLeftOut());
+    if (m_subheader != nullptr && entry != nullptr) {
+        const std::string indent = Words().indent;
+        const char* const element = NITFCnst::XML_ELEMENT_DES_CMPLX_FIELD;
+        aXml += indent + '<' + element;
+        Detail::AppendFieldAttributes(fields, *entry, Words().naming, fields.Entries().size(), aXml);
+        aXml += ">\n";
+        m_subheader->AppendXml(aXml, (indent + "  ").c_str(), NITFCnst::XML_ELEMENT_DESSHF_FIELD);
+        aXml += indent + "</" + element + ">\n";
+    }
     AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aXml);
 }
 
 void NITFDESSubheader::Validate(Detail::Findings& aFindings) const
 {
     NITFDataSegment::Validate(aFindings);
+    if (!m_isOverflow) {
+        ValidateTypedFields(aFindings);
+        return;
+    }
+    if (NumberOf(NITFCnst::NITF_DES_FIELD_DESVER) != 1) {
+        aFindings.AddError(CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, Words().owner, NITFCnst::NITF_DES_FIELD_DESVER,
+                           PlaceOf(NITFCnst::NITF_DES_FIELD_DESVER));
+    }
+    if (NumberOf("DESSHL") != 0) {
+        aFindings.AddError(CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, Words().owner, "DESSHL", PlaceOf("DESSHL"));
+    }
+}
+
+void NITFDESSubheader::ValidateTypedFields(Detail::Findings& aFindings) const
+{
+    if (m_subheader == nullptr) {
+        return;
+    }
+    std::string lines;
+    m_subheader->ValidateFieldValues(lines);
+    aFindings.AddErrors(lines);
+    const std::string type = GetDESTypeID();
+    if (!IsDataAvailable() || !SupportedDESDATAs::AbleToCreateDESDATA(type.c_str())) {
+        return;
+    }
+    std::string fault;
+    const DesDESDATA* const data = GetDESDATAFields(&fault);
+    if (data == nullptr) {
+        aFindings.AddError(fault);
+        return;
+    }
+    lines.clear();
+    data->ValidateFieldValues(lines);
+    aFindings.AddErrors(lines);
+    const std::string disagreement = data->CheckAgainst(*m_subheader);
+    if (!disagreement.empty()) {
+        aFindings.AddError("ERROR: The data of the DES do not agree with its subheader fields: " + disagreement);
+    }
 }
 
 }  // namespace ORMO::SensorModel::CSM

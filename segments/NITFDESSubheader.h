@@ -9,10 +9,15 @@
 
 namespace ORMO::SensorModel::CSM {
 
+class DesDESDATA;
+class DesDESSHF;
+
 /// The subheader of one data extension segment. NITF20DESSubheader reads MIL-STD-2500A (table XVIII),
 /// NITF21DESSubheader MIL-STD-2500C (table A-8), which also serves NSIF 1.0.
 ///
 /// The data of an overflow DES are TREs that belong to another segment; queries with a TRE tag answer from them.
+/// Of the other types, those that SupportedDESSHFs knows have their user-defined subheader fields, and those that
+/// SupportedDESDATAs knows their data, cut into fields.
 class ORMO_CSM_API NITFDESSubheader : public NITFDataSegment
 {
 public:
@@ -35,6 +40,11 @@ public:
     {
         return GetData(aData, aLength, aErrors);
     }
+    /// The user-defined subheader fields; null when there are none, the type is not known, or they do not fit it.
+    const DesDESSHF* GetDESSHF() const noexcept { return m_subheader.get(); }
+    /// The data cut into the fields of their type, read when first asked for. Null, with the reason appended to
+    /// `aErrors` when that is given, when the type is not known, the data cannot be had, or they do not fit it.
+    const DesDESDATA* GetDESDATAFields(std::string* aErrors = nullptr) const;
 
 protected:
     NITFDESSubheader(const char* aVersionText, const Detail::FieldTable& aTable);
@@ -60,7 +70,13 @@ protected:
                      std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                      bool aSpecificOnly, const char* aReader);
 
+    std::string_view FieldLeftOut() const noexcept override;
+
 private:
+    struct TypedData;
+
+    void InitDESSHF();
+    void ValidateTypedFields(Detail::Findings& aFindings) const;
     std::string LinkFault();
     void InitOverflowTREs(bool aSpecificOnly, Util::CSMCnst::ByteOrder aByteOrder);
     void AddFault(const std::string& aError, const std::string& aWarning);
@@ -72,6 +88,9 @@ private:
     long m_targetIndex = -1;
     std::string m_targetArea;
     TREStore m_carried;
+    // Neither changes once it is made, so copies of a segment share them.
+    std::shared_ptr<const DesDESSHF> m_subheader;
+    std::shared_ptr<TypedData> m_typedData;
 };
 
 }  // namespace ORMO::SensorModel::CSM

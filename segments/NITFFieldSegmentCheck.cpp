@@ -2,7 +2,6 @@
 
 #include "fields/MessageText.h"
 #include "fields/ValueRule.h"
-#include "foundation/CSMMsg.h"
 #include "segments/Findings.h"
 #include "segments/NITFFieldSegment.h"
 #include "segments/SecurityCheck.h"
@@ -15,23 +14,6 @@ namespace {
 std::string Place(std::uint64_t aOffset, std::string_view aValue)
 {
     return "[byte offset " + std::to_string(aOffset) + ": value " + Detail::Shown(aValue) + "]";
-}
-
-/// A value that its standard does not allow. Fields that may be left out altogether only give a warning.
-void AddFinding(const Detail::FieldRow& aRow, Detail::Verdict aVerdict, std::string_view aOwner, std::string_view aName,
-                std::string_view aPlace, Detail::Findings& aFindings)
-{
-    if (aRow.need == Detail::Need::Optional) {
-        aFindings.AddWarning(CSMMsg::Warn::FIELD_VALUE_OUT_OF_VALID_RANGE, aOwner, aName, aPlace);
-        return;
-    }
-    const bool blank = aVerdict == Detail::Verdict::Blank;
-    const bool required = aRow.IsRequired();
-    aFindings.AddError(
-        blank ? (required ? CSMMsg::Error::MISSING_REQUIRED_FIELD : CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD)
-        : required ? CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE
-                   : CSMMsg::Error::INVALID_CONDITIONALLY_REQUIRED_FIELD_VALUE,
-        aOwner, aName, aPlace);
 }
 
 }  // namespace
@@ -47,8 +29,14 @@ void NITFFieldSegment::Validate(Detail::Findings& aFindings) const
         if (verdict != Detail::Verdict::Good) {
             name.clear();
             fields.AppendName(entry, name);
-            AddFinding(fields.Row(entry), verdict, owner, name, Place(FileOffset() + fields.Position(entry), value),
-                       aFindings);
+            const Detail::FieldRow& row = fields.Row(entry);
+            const std::string place = Place(FileOffset() + fields.Position(entry), value);
+            // A field that may be left out altogether only gives a warning.
+            if (row.need == Detail::Need::Optional) {
+                aFindings.AddWarning(Detail::FaultSentence(row, verdict), owner, name, place);
+            } else {
+                aFindings.AddError(Detail::FaultSentence(row, verdict), owner, name, place);
+            }
         }
     }
     Detail::CheckSecurity(fields, owner, FileOffset(), aFindings);

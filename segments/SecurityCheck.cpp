@@ -27,6 +27,8 @@ struct TypeRule
 constexpr std::array<TypeRule, 5> TYPE_RULES{
     {{"DCDT", "DD"}, {"DCXM", "X"}, {"DG", "GD|GE"}, {"DGDT", "GD"}, {"CLTX", "DE|GE"}}};
 
+constexpr std::string_view KNOWN_TYPES = "DD|DE|GD|GE|O|X";
+
 /// Each of them needs a security system.
 constexpr std::array<std::string_view, 14> OF_A_SYSTEM{"CODE", "CTLH", "REL",  "DCTP", "DCDT", "DCXM", "DG",
                                                        "DGDT", "CLTX", "CATP", "CAUT", "CRSN", "SRDT", "CTLN"};
@@ -62,7 +64,11 @@ void CheckSecurity(const FieldStore& aFields, std::string_view aOwner, std::uint
                                       "; type of declassification " + Shown(value(DECLASSIFICATION)) + "]";
     };
     const std::string_view type = value(DECLASSIFICATION);
+    const bool known = type.empty() || IsListed(type, KNOWN_TYPES);  // else that alone is the fault
     for (const TypeRule& rule : TYPE_RULES) {
+        if (!known) {
+            break;
+        }
         const bool wanted = !type.empty() && IsListed(type, rule.types);
         const bool filled = !value(rule.field).empty();
         const std::string field = prefix + std::string(rule.field);

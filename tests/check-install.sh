@@ -24,11 +24,18 @@ LD_LIBRARY_PATH=$(dirname "$pc") "$work/pc-client" "$sample" | grep -q "^NITF02.
 "$work/prefix/bin/ormo-nitf" info "$sample" >/dev/null || { echo "FAILED: the installed program"; exit 1; }
 
 include=$work/prefix/include/ormo-csm
-find "$include" -name '*.h' ! -path '*/csmapi/*' -print0 |
-    xargs -0 -P "$(nproc)" -n 8 sh -c 'for h in "$@"; do
-        g++ -std=c++17 -fsyntax-only -Wall -Wextra -Wpedantic -Werror -I"$0" -I"$0/csmapi" -x c++ "$h" 2>&1 |
-            grep -v "pragma once in main file" | grep -E "error|warning" && { echo "FAILED: $h alone"; exit 255; }; done; true' "$include"
+compile_alone() {
+    local header
+    for header in "$@"; do
+        echo "#include \"$header\"" |
+            g++ -std=c++17 -fsyntax-only -Wall -Wextra -Wpedantic -Werror -I"$include" -I"$include/csmapi" -x c++ - ||
+            { echo "FAILED: $header alone"; return 255; }
+    done
+}
+export -f compile_alone
+export include
+find "$include" -name '*.h' ! -path '*/csmapi/*' -print0 | xargs -0 -P "$(nproc)" -n 8 bash -c 'compile_alone "$@"' _
 
-exported=$(nm -DC --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -c " T ORMO::.*Detail::" || true)
+exported=$(nm -DC --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -c " T ORMO::SensorModel::CSM::Detail::" || true)
 [ "$exported" -eq 0 ] || { echo "FAILED: $exported internal functions are exported"; exit 1; }
 echo "1 passed, 0 failed"

@@ -45,15 +45,20 @@ void Line(std::ostream& aOut, const char* aName, std::string_view aValue)
     }
 }
 
-void PrintTREs(std::ostream& aOut, const NITFFieldSegment& aSegment)
+void PrintTREs(std::ostream& aOut, const std::vector<const TREStore*>& aStores)
 {
-    for (const TREStore* const store : {&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()}) {
+    for (const TREStore* const store : aStores) {
         for (const TRE* const tre : store->InOrder()) {
             const bool known = !tre->IsGenericTRE();
             aOut << "    TRE " << Shown(tre->GetTag()) << "  " << (known ? tre->GetTREName() : "(not decoded)") << ", "
                  << tre->GetLengthOfDataField() << " bytes, " << tre->GetExtensionArea() << '\n';
         }
     }
+}
+
+void PrintTREs(std::ostream& aOut, const NITFFieldSegment& aSegment)
+{
+    PrintTREs(aOut, {&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()});
 }
 
 void PrintFootprint(std::ostream& aOut, const NITFImageSubheader& aImage)
@@ -122,8 +127,14 @@ void PrintFile(std::ostream& aOut, const std::string& aPath, const ImageSupportD
             info->GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE ? aIsd.GetImageSubheader(index) : nullptr;
         if (image != nullptr) {
             PrintImage(aOut, *image, info->GetSegmentDataSize());
-        } else {
-            PrintOther(aOut, *info, aIsd.GetSegment(info->GetDataSegmentType(), index));
+            continue;
+        }
+        PrintOther(aOut, *info, aIsd.GetSegment(info->GetDataSegmentType(), index));
+        const NITFDESSubheader* const des = info->GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION
+                                                ? aIsd.GetDataExtensionSegment(index)
+                                                : nullptr;
+        if (des != nullptr && des->IsTREOverflow() && !aIsd.IsOverflowPlaced(index)) {
+            PrintTREs(aOut, {&des->GetOverflowTREs()});
         }
     }
     for (const std::string& warning : aIsd.GetWarnings()) {

@@ -89,7 +89,10 @@ public:
     /// classification is written as "UNKNOWN".
     virtual bool Serialize(char** aXml, const char* aClassification, int aIndex) const;
     /// Appends the XML element of this TRE.
-    void AppendXml(std::string& aXml, const char* aClassification, int aIndex) const { SerializeTRE(aXml, aClassification, aIndex); }
+    void AppendXml(std::string& aXml, const char* aClassification, int aIndex) const
+    {
+        SerializeTRE(aXml, aClassification, aIndex);
+    }
     /// Number of fields with values that the standard does not allow; appends one line for each to `aErrors`.
     virtual int ValidateFieldValues(std::string& aErrors) const;
 

@@ -1,7 +1,7 @@
 // A user's first program, built against the installed library.
-#include <ormo_csm.h>
-
 #include <cstdio>
+
+#include <ormo_csm.h>
 
 using namespace ORMO::SensorModel::CSM;
 

@@ -15,21 +15,22 @@ class TreMaker;
 
 // One class per tag. They differ only in the table behind Layout(), which stands in tre/tags/Tre<TAG>.cpp, so one
 // pattern declares them all. Objects are made by the TRE factory only.
-#define ORMO_TYPED_TRE(aClass)                                                                              \
-    /** The typed form of one tagged record extension; see TRE for all queries. */                          \
-    class ORMO_CSM_API aClass : public TRE                                                                  \
-    {                                                                                                       \
-    public:                                                                                                 \
-        using TRE::operator=;                                                                               \
-        /** The table of this tag. */                                                                       \
-        static const Detail::TreLayout& Layout();                                                           \
-                                                                                                            \
-    private:                                                                                                \
-        friend class Detail::TreMaker;                                                                      \
+#define ORMO_TYPED_TRE(aClass)                                                                               \
+    /** The typed form of one tagged record extension; see TRE for all queries. */                           \
+    class ORMO_CSM_API aClass : public TRE                                                                   \
+    {                                                                                                        \
+    public:                                                                                                  \
+        using TRE::operator=;                                                                                \
+        /** The table of this tag. */                                                                        \
+        static const Detail::TreLayout& Layout();                                                            \
+                                                                                                             \
+    private:                                                                                                 \
+        friend class Detail::TreMaker;                                                                       \
         aClass(const char* aData, std::size_t aLength, TRE::Type aType, Util::CSMCnst::ByteOrder aByteOrder) \
-            : TRE(Layout(), aData, aLength, aType, aByteOrder)                                              \
-        {}                                                                                                  \
-        aClass(const aClass&) = default;                                                                    \
+            : TRE(Layout(), aData, aLength, aType, aByteOrder)                                               \
+        {                                                                                                    \
+        }                                                                                                    \
+        aClass(const aClass&) = default;                                                                     \
     }
 
 ORMO_TYPED_TRE(TreACCHZB);
