@@ -115,6 +115,11 @@ std::span<const std::uint32_t> FieldStore::EntriesOf(std::uint16_t aRow) const n
 const FieldEntry* FieldStore::Find(std::uint16_t aRow, const Turns& aTurns) const noexcept
 {
     const auto entries = EntriesOf(aRow);
+    // In most repeats every turn has the field, so the turn tells the place.
+    const std::size_t guess = aTurns[0] == 0 ? 0 : aTurns[0] - 1;
+    if (guess < entries.size() && m_entries[entries[guess]].turns == aTurns) {
+        return &m_entries[entries[guess]];
+    }
     const auto it = std::lower_bound(
         entries.begin(), entries.end(), aTurns,
         [this](std::uint32_t aPlace, const Turns& aWanted) { return m_entries[aPlace].turns < aWanted; });

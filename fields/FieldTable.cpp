@@ -59,18 +59,24 @@ bool IsFixedText(std::string_view aRule) noexcept
 
 std::uint16_t FieldTable::Find(std::string_view aTag, std::size_t aDepth) const noexcept
 {
-    const std::uint16_t* const last = m_byTag + m_fieldCount;
+    const auto tagOf = [this](std::uint16_t aRow) {
+        return std::string_view(m_rows[aRow].tag, m_links[aRow].tagLength);
+    };
+    const std::uint16_t* last = m_byTag + m_fieldCount;
     const std::uint16_t* it = std::lower_bound(
-        m_byTag, last, aTag,
-        [this](std::uint16_t aRow, std::string_view aWanted) { return std::string_view(m_rows[aRow].tag) < aWanted; });
-    for (; it != last && aTag == m_rows[*it].tag; ++it) {
+        m_byTag, last, aTag, [&](std::uint16_t aRow, std::string_view aWanted) { return tagOf(aRow) < aWanted; });
+    for (; it != last && aTag == tagOf(*it); ++it) {
         if (m_links[*it].depth == aDepth) {
             return *it;
         }
     }
-    for (std::size_t i = 0; i != m_count; ++i) {
-        if (m_rows[i].alias != nullptr && aTag == m_rows[i].alias && m_links[i].depth == aDepth) {
-            return static_cast<std::uint16_t>(i);
+    last = m_byAlias + m_aliasCount;
+    it = std::lower_bound(m_byAlias, last, aTag, [this](std::uint16_t aRow, std::string_view aWanted) {
+        return std::string_view(m_rows[aRow].alias) < aWanted;
+    });
+    for (; it != last && aTag == m_rows[*it].alias; ++it) {
+        if (m_links[*it].depth == aDepth) {
+            return *it;
         }
     }
     return NO_ROW;
@@ -97,24 +103,24 @@ std::uint16_t FieldTable::Resolve(std::string_view aName, Turns& aTurns) const n
 // innermost first and put in order at the end.
 std::uint16_t FieldTable::Match(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept
 {
-    std::uint16_t row = Find(aName, aDepth);
-    if (row != NO_ROW) {
-        std::reverse(aCut.begin(), aCut.begin() + static_cast<std::ptrdiff_t>(aDepth));
-        return row;
-    }
-    if (aDepth == MAX_LOOP_DEPTH) {
-        return NO_ROW;
-    }
+    // Names cannot meet, so the order of the tries does not matter: the more likely reading of a name that ends in a
+    // digit comes first.
+    const bool digit = !aName.empty() && aName.back() >= '0' && aName.back() <= '9';
     const std::size_t most = m_naming == Naming::Underscore ? DIGITS_OF_A_TURN : MOST_DIGITS_OF_A_TURN;
-    for (std::size_t digits = DIGITS_OF_A_TURN; row == NO_ROW && digits <= most; ++digits) {
+    for (std::size_t digits = DIGITS_OF_A_TURN; digit && aDepth < m_deepest && digits <= most; ++digits) {
         std::string_view rest = aName;
         std::uint32_t& turn = aCut[aDepth];
         if (m_naming == Naming::Underscore ? CutUnderscore(rest, turn) : CutDigits(rest, digits, turn)) {
-            row = Match(rest, aDepth + 1, aCut);
+            const std::uint16_t row = Match(rest, aDepth + 1, aCut);
+            if (row != NO_ROW) {
+                return row;
+            }
         }
+        turn = 0;
     }
-    if (row == NO_ROW) {
-        aCut[aDepth] = 0;
+    const std::uint16_t row = Find(aName, aDepth);
+    if (row != NO_ROW) {
+        std::reverse(aCut.begin(), aCut.begin() + static_cast<std::ptrdiff_t>(aDepth));
     }
     return row;
 }

@@ -34,6 +34,7 @@ struct RowLink
     std::uint16_t end = NO_ROW;  ///< the End of a group
     std::uint16_t ref = NO_ROW;  ///< the field that a mark or a Sized field looks at
     std::uint8_t depth = 0;      ///< number of repeats around the row
+    std::uint8_t tagLength = 0;  ///< characters of the tag
     bool structural = false;     ///< another row looks at this field
     std::uint32_t least = 0;     ///< of a group: bytes of the fixed fields in one turn, conditions left out
     std::uint32_t fields = 0;    ///< of a group: the number of plain fields in one turn, conditions left out
@@ -44,8 +45,9 @@ class FieldTable
 {
 public:
     constexpr FieldTable() noexcept = default;
-    constexpr FieldTable(const FieldRow* aRows, const RowLink* aLinks, const std::uint16_t* aByTag, std::size_t aCount,
-                         std::size_t aFieldCount, Naming aNaming) noexcept
+    constexpr FieldTable(const FieldRow* aRows, const RowLink* aLinks, const std::uint16_t* aByTag,
+                         const std::uint16_t* aByAlias, std::size_t aCount, std::size_t aFieldCount,
+                         std::size_t aAliasCount, std::size_t aDeepest, Naming aNaming) noexcept
         : m_rows(aRows), m_links(aLinks), m_byTag(aByTag), m_count(aCount), m_fieldCount(aFieldCount), m_naming(aNaming)
     {
     }
@@ -74,9 +76,12 @@ private:
 
     const FieldRow* m_rows = nullptr;
     const RowLink* m_links = nullptr;
-    const std::uint16_t* m_byTag = nullptr;  // field rows only, by tag, then by depth
+    const std::uint16_t* m_byTag = nullptr;    // field rows only, by tag, then by depth
+    const std::uint16_t* m_byAlias = nullptr;  // field rows with an alias, by alias, then by depth
     std::size_t m_count = 0;
     std::size_t m_fieldCount = 0;
+    std::size_t m_aliasCount = 0;
+    std::size_t m_deepest = 0;
     Naming m_naming = Naming::Underscore;
 };
 
@@ -121,13 +126,16 @@ struct FieldTableOf
     const FieldRow* rows = nullptr;
     std::array<RowLink, N> links{};
     std::array<std::uint16_t, N> byTag{};
+    std::array<std::uint16_t, N> byAlias{};
     std::size_t fieldCount = 0;
+    std::size_t aliasCount = 0;
+    std::size_t deepest = 0;  ///< the largest number of repeats around a field
     Naming naming = Naming::Underscore;
     bool wellFormed = true;
 
     constexpr FieldTable View() const noexcept
     {
-        return FieldTable(rows, links.data(), byTag.data(), N, fieldCount, naming);
+        return FieldTable(rows, links.data(), byTag.data(), byAlias.data(), N, fieldCount, aliasCount, deepest, naming);
     }
 };
 
@@ -260,13 +268,24 @@ constexpr void OrderByTag(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
     for (std::size_t i = 0; i != N; ++i) {
         if (aRows[i].IsField()) {
             aTable.byTag[aTable.fieldCount++] = static_cast<std::uint16_t>(i);
+            aTable.deepest = std::max<std::size_t>(aTable.deepest, aTable.links[i].depth);
+            aTable.links[i].tagLength = static_cast<std::uint8_t>(std::string_view(aRows[i].tag).size());
+            if (aRows[i].alias != nullptr) {
+                aTable.byAlias[aTable.aliasCount++] = static_cast<std::uint16_t>(i);
+            }
         }
     }
-    const auto last = aTable.byTag.begin() + static_cast<std::ptrdiff_t>(aTable.fieldCount);
-    std::sort(aTable.byTag.begin(), last, [&](std::uint16_t a, std::uint16_t b) {
-        const int order = std::string_view(aRows[a].tag).compare(aRows[b].tag);
-        return order != 0 ? order < 0 : aTable.links[a].depth < aTable.links[b].depth;
-    });
+    const auto byName = [&](bool aAlias) {
+        return [&, aAlias](std::uint16_t a, std::uint16_t b) {
+            const std::string_view left(aAlias ? aRows[a].alias : aRows[a].tag);
+            const int order = left.compare(aAlias ? aRows[b].alias : aRows[b].tag);
+            return order != 0 ? order < 0 : aTable.links[a].depth < aTable.links[b].depth;
+        };
+    };
+    std::sort(aTable.byTag.begin(), aTable.byTag.begin() + static_cast<std::ptrdiff_t>(aTable.fieldCount),
+              byName(false));
+    std::sort(aTable.byAlias.begin(), aTable.byAlias.begin() + static_cast<std::ptrdiff_t>(aTable.aliasCount),
+              byName(true));
 }
 
 constexpr bool IsDigit(char aCharacter) noexcept

@@ -1,0 +1,107 @@
+// What decoding the TREs of one image costs: cutting the area and looking up every field by its name.
+
+#include "tre/TREFactory.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+std::atomic<long> theAllocations{0};
+
+}  // namespace
+
+// Counts allocations of the whole program, so that none can hide.
+void* operator new(std::size_t aSize)
+{
+    ++theAllocations;
+    if (void* const memory = std::malloc(aSize == 0 ? 1 : aSize)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+void operator delete(void* aMemory) noexcept
+{
+    std::free(aMemory);
+}
+void operator delete(void* aMemory, std::size_t) noexcept
+{
+    std::free(aMemory);
+}
+
+namespace {
+
+using namespace ORMO::SensorModel::CSM;
+
+std::string Record(const char* aTag, std::size_t aLength, char aFill)
+{
+    std::string length = std::to_string(aLength);
+    length.insert(0, 5 - length.size(), '0');
+    return std::string(aTag) + length + std::string(aLength, aFill);
+}
+
+/// BLOCKA, RPC00B, USE00A, STDIDC and ICHIPB: 168 fields.
+std::string AreaOfOneImage()
+{
+    return Record("BLOCKA", 123, '0') + Record("RPC00B", 1041, '0') + Record("USE00A", 107, '0') +
+           Record("STDIDC", 89, '0') + Record("ICHIPB", 224, '0');
+}
+
+std::size_t Decode(const std::string& aArea, TREStore& aStore)
+{
+    std::string warnings;
+    TREFactory::ExtractTREs(aArea.data(), aArea.size(), aStore, false, false, warnings,
+                            Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN, {"IXSHD", 0, TRE::TRE_TYPE_CONTROLLED_EXTENSION});
+    std::size_t fields = 0;
+    for (const TRE* const tre : aStore.InOrder()) {
+        fields += tre->GetNumOfFields();
+    }
+    return fields;
+}
+
+void DecodeTresOfOneImage(benchmark::State& aState)
+{
+    const std::string area = AreaOfOneImage();
+    std::vector<std::string> names;
+    {
+        TREStore store;
+        const std::size_t fields = Decode(area, store);
+        std::string name;
+        for (const TRE* const tre : store.InOrder()) {
+            for (std::size_t i = 0; i != tre->GetNumOfFields(); ++i) {
+                const char* value = nullptr;
+                std::size_t length = 0;
+                tre->GetFieldAt(i, name, value, length);
+                names.push_back(name);
+            }
+        }
+        aState.counters["fields"] = static_cast<double>(fields);
+    }
+    long allocations = 0;
+    for (auto turn : aState) {
+        const long before = theAllocations;
+        TREStore store;
+        Decode(area, store);
+        std::size_t found = 0;
+        std::size_t place = 0;
+        for (const TRE* const tre : store.InOrder()) {
+            for (std::size_t i = 0; i != tre->GetNumOfFields(); ++i) {
+                const char* value = nullptr;
+                std::size_t length = 0;
+                found += tre->GetFieldAsString(names[place++].c_str(), value, length) ? 1 : 0;
+            }
+        }
+        benchmark::DoNotOptimize(found);
+        allocations += theAllocations - before;
+    }
+    aState.counters["allocations"] =
+        benchmark::Counter(static_cast<double>(allocations), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(DecodeTresOfOneImage);
+
+}  // namespace
