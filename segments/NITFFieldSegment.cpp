@@ -297,6 +297,11 @@ std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aT
         AddError(!Detail::Trimmed(aTreTag).empty() ? words.emptyTreName
                  : aText                           ? words.emptyTextName
                                                    : words.emptyName);
+        return {};
+    }
+    if (TreRefusal() != nullptr && !Detail::Trimmed(aTreTag).empty()) {
+        AddError(TreRefusal());
+        return {};
     }
     return name;
 }
