@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
@@ -22,6 +23,7 @@ constexpr std::string_view NO_HEADER = "ERROR: Failed to retrieve the NITF file 
 constexpr std::string_view FIRST_MARK("\x0A\x6E\x1D\x97", 4);
 constexpr std::string_view SECOND_MARK("\x0E\xCA\x14\xBF", 4);
 constexpr std::uint64_t LENGTH_DIGITS = 7;
+constexpr std::size_t HEADER_LENGTH_DIGITS = 6;
 constexpr std::uint64_t FRAME = 2 * (LENGTH_DIGITS + 4);
 
 std::string Place(std::string_view aField, std::uint64_t aOffset, const std::string& aWhat)
@@ -57,7 +59,8 @@ std::string StreamedHeader(const ByteSource& aSource, std::string& aReason)
     return std::string(frame.substr(LENGTH_DIGITS + 4, length));
 }
 
-void UseStreamedHeader(const ByteSource& aSource, RawFileHeader& aOut)
+/// `aLengthAt` is the offset of HL, which the replacement may state anew.
+void UseStreamedHeader(const ByteSource& aSource, std::size_t aLengthAt, RawFileHeader& aOut)
 {
     std::string reason;
     const std::string streamed = StreamedHeader(aSource, reason);
@@ -65,7 +68,15 @@ void UseStreamedHeader(const ByteSource& aSource, RawFileHeader& aOut)
         aOut.hint = "WARN: FL is all nines, so the file was written as a stream, but " + reason + ".";
         return;
     }
-    aOut.bytes.replace(0, std::min(streamed.size(), aOut.bytes.size()), streamed);
+    std::uint64_t length = 0;
+    std::string bytes;
+    if (streamed.size() >= aLengthAt + HEADER_LENGTH_DIGITS &&
+        ToCount(std::string_view(streamed).substr(aLengthAt, HEADER_LENGTH_DIGITS), length) &&
+        length != aOut.bytes.size() && aSource.Read(0, length, bytes)) {
+        aOut.bytes = std::move(bytes);
+    }
+    const std::size_t replaced = std::min(streamed.size(), aOut.bytes.size());
+    aOut.bytes.replace(0, replaced, streamed, 0, replaced);
     aOut.streaming = true;
     aOut.warnings = "WARN: The file was written as a stream: the STREAMING_FILE_HEADER at its end (" +
                     std::to_string(streamed.size()) + " byte(s)) is read in place of the first header.";
@@ -86,12 +97,14 @@ bool ReadRawFileHeader(const ByteSource& aSource, NITFCnst::Version aVersion, Ra
                                                                   : NITF21FileHeader::Table());
     const WalkResult walked = FieldWalk::Read(aOut.bytes, probe);
     std::string missing;
-    if (walked.fault == Fault::Short) {
+    if (walked.fault == Fault::Short || walked.fault == Fault::CountBeyondData) {
         std::string name;
         probe.Table().AppendName(walked.row, walked.turns, name);
-        missing = Place(
-            name, walked.offset,
-            std::to_string(walked.wanted) + " byte(s) needed, the file ends at " + std::to_string(aSource.Size()));
+        const std::string wanted = std::to_string(walked.wanted) + " byte(s)";
+        missing = Place(name, walked.offset,
+                        (walked.fault == Fault::Short ? wanted + " needed"
+                                                      : "value " + Shown(walked.value) + " promises " + wanted) +
+                            ", the file ends at " + std::to_string(aSource.Size()));
     }
     const FieldEntry* const entry = probe.Find("HL");
     if (entry == nullptr) {
@@ -109,6 +122,7 @@ bool ReadRawFileHeader(const ByteSource& aSource, NITFCnst::Version aVersion, Ra
                                 "value " + Shown(text) + " is beyond the end of the file at " +
                                     std::to_string(aSource.Size())));
     }
+    const std::uint64_t lengthAt = probe.Position(*entry);
     bool found = false;
     const std::string fileLength(probe.Find("FL", found));
     if (length <= aOut.bytes.size()) {
@@ -117,7 +131,7 @@ bool ReadRawFileHeader(const ByteSource& aSource, NITFCnst::Version aVersion, Ra
         return fail("[the file cannot be read]");
     }
     if (found && aVersion != NITFCnst::NITF_VERSION_NUMBER_20 && fileLength == NITFCnst::STR_VAL_999999999999) {
-        UseStreamedHeader(aSource, aOut);
+        UseStreamedHeader(aSource, static_cast<std::size_t>(lengthAt), aOut);
     }
     return true;
 }

@@ -140,9 +140,9 @@ void NITFFileHeader::Init(std::string aRaw, bool aStreaming, const Detail::KindL
         throw ImageSupportDataConstructionException(errors.c_str(), source.c_str());
     }
     CheckFileHeaderVersion();
-    if (consumed != length) {
+    if (consumed != GetFileHeaderLength()) {
         AddWarning("WARN: The NITF file header fields end after " + std::to_string(consumed) + " byte(s), HL says " +
-                   std::to_string(length) + " byte(s); HL decides.");
+                   std::to_string(GetFileHeaderLength()) + " byte(s); HL decides.");
     }
     ExtractFileHeaderTREs(aSpecificOnly);
     CheckForTreRPFHDR();

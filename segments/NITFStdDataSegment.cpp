@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 #include <string_view>
@@ -62,7 +63,9 @@ bool NITFStdDataSegment::DisplayLevelSortPredicate(const NITFStdDataSegment* aFi
 
 bool NITFStdDataSegment::GetTREPointerArray(const TRE**& aArray, std::size_t aCount) noexcept
 {
-    aArray = new (std::nothrow) const TRE* [aCount] {};
+    // More than the address space holds would raise, with or without nothrow.
+    const bool possible = aCount <= static_cast<std::size_t>(PTRDIFF_MAX) / sizeof(const TRE*);
+    aArray = possible ? new (std::nothrow) const TRE* [aCount] {} : nullptr;
     return aArray != nullptr;
 }
 

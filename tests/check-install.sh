@@ -36,6 +36,6 @@ export -f compile_alone
 export include
 find "$include" -name '*.h' ! -path '*/csmapi/*' -print0 | xargs -0 -P "$(nproc)" -n 8 bash -c 'compile_alone "$@"' _
 
-exported=$(nm -DC --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -c " T ORMO::.*Detail::" || true)
+exported=$(nm -DC --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -c " T ORMO::SensorModel::CSM::Detail::" || true)
 [ "$exported" -eq 0 ] || { echo "FAILED: $exported internal functions are exported"; exit 1; }
 echo "1 passed, 0 failed"

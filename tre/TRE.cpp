@@ -49,7 +49,7 @@ const FieldEntry* FindField(const FieldStore* aFields, const char* aName)
 }
 
 /// What a walk that stopped has to say: which field, its bytes, what it wanted and what was there.
-std::string FaultText(const FieldStore& aFields, const Detail::WalkResult& aResult)
+std::string FaultText(const char* aTag, const FieldStore& aFields, const Detail::WalkResult& aResult)
 {
     std::string text = " Field ";
     std::string name;
@@ -74,6 +74,13 @@ std::string FaultText(const FieldStore& aFields, const Detail::WalkResult& aResu
     }
     text += ", at data offset " + std::to_string(aResult.offset) + "; " + std::to_string(aResult.available) +
             " byte(s) were left.";
+    const FieldRow& row = aFields.Table().Row(aResult.row);
+    const bool blank = aResult.fault == Detail::Fault::NotANumber && Detail::Trimmed(aResult.value).empty();
+    const bool absent = aResult.fault == Detail::Fault::Short && aResult.available == 0;
+    if (row.IsField() && row.IsRequired() && (blank || absent)) {
+        Util::CSMUtilGeneric::ConstructMessage(true, (std::string(CSMMsg::Error::MISSING_REQUIRED_FIELD) + ' ').c_str(),
+                                               aTag, name.c_str(), text);
+    }
     return text;
 }
 
@@ -214,7 +221,7 @@ void TRE::InitNITFTreFieldsMap()
     if (!result.IsGood()) {
         const std::size_t extracted = fields->Entries().size();
         ThrowNotExtracted(m_layout->tag, std::max(m_layout->table.FieldCount(), extracted + 1), extracted,
-                          FaultText(*fields, result));
+                          FaultText(m_layout->tag, *fields, result));
     }
     if (result.consumed != length) {
         CheckCEREDATALength(length, m_layout->tag, static_cast<std::size_t>(result.consumed), false);

@@ -145,8 +145,10 @@ HeaderFields& HeaderFields::InsertAfter(std::string_view aBefore, std::string_vi
 HeaderFields& HeaderFields::Area(std::string_view aName, std::string_view aTres, unsigned aOverflow)
 {
     const std::string length = std::string(aName) + "L";
-    const bool named21 = aName == "XHD" && Has("FVER");
-    const std::string overflow = named21 ? "XHDLOFL" : std::string(aName.substr(0, aName.size() - 1)) + "OFL";
+    const std::string overflow = aName == "UDHD"  ? "UDHOFL"
+                                 : aName != "XHD" ? std::string(aName.substr(0, aName.size() - 2)) + "OFL"
+                                 : Has("FVER")    ? "XHDLOFL"
+                                                  : "XHDOFL";
     Set(length, aTres.size() + 3);
     InsertAfter(length, overflow, Padded(aOverflow, 3));
     return aTres.empty() ? *this : InsertAfter(overflow, aName, aTres);
@@ -244,6 +246,17 @@ const std::string& HeaderFields::Written(const Item& aItem) const
 {
     const auto damaged = m_damage.find(aItem.name);
     return damaged == m_damage.end() ? aItem.value : damaged->second;
+}
+
+std::vector<std::string> HeaderFields::Names() const
+{
+    std::vector<std::string> names;
+    for (const Item& item : m_items) {
+        if (item.width != 0) {
+            names.push_back(item.name);
+        }
+    }
+    return names;
 }
 
 std::string HeaderFields::Get(std::string_view aName) const

@@ -59,6 +59,8 @@ public:
     /// Deliberate damage: bytes behind the last field; they count in the length of the header.
     HeaderFields& Surplus(std::string_view aBytes);
 
+    /// The fields in their order.
+    std::vector<std::string> Names() const;
     std::string Get(std::string_view aName) const;
     bool Has(std::string_view aName) const;
     std::size_t OffsetOf(std::string_view aName) const;
