@@ -48,7 +48,15 @@ public:
     constexpr FieldTable(const FieldRow* aRows, const RowLink* aLinks, const std::uint16_t* aByTag,
                          const std::uint16_t* aByAlias, std::size_t aCount, std::size_t aFieldCount,
                          std::size_t aAliasCount, std::size_t aDeepest, Naming aNaming) noexcept
-        : m_rows(aRows), m_links(aLinks), m_byTag(aByTag), m_count(aCount), m_fieldCount(aFieldCount), m_naming(aNaming)
+        : m_rows(aRows),
+          m_links(aLinks),
+          m_byTag(aByTag),
+          m_byAlias(aByAlias),
+          m_count(aCount),
+          m_fieldCount(aFieldCount),
+          m_aliasCount(aAliasCount),
+          m_deepest(aDeepest),
+          m_naming(aNaming)
     {
     }
 
