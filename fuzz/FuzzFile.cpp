@@ -26,17 +26,11 @@ public:
             __builtin_trap();
         }
     }
-    ~MemoryFile()
-    {
-        close(m_descriptor);
-    }
+    ~MemoryFile() { close(m_descriptor); }
     MemoryFile(const MemoryFile&) = delete;
     MemoryFile& operator=(const MemoryFile&) = delete;
 
-    std::string Path() const
-    {
-        return "/proc/self/fd/" + std::to_string(m_descriptor);
-    }
+    std::string Path() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }
 
 private:
     int m_descriptor;
