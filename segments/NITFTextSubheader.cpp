@@ -4,6 +4,7 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "foundation/Ascii.h"
+#include "foundation/CSMMsg.h"
 #include "segments/Findings.h"
 #include "segments/SegmentContents.h"
 #include "segments/SegmentData.h"
@@ -84,9 +85,10 @@ void NITFTextSubheader::Validate(Detail::Findings& aFindings) const
     }
     const Detail::TextFault fault = Detail::CheckText(text, GetTextFormat());
     if (fault.reason != nullptr) {
-        aFindings.AddError("ERROR: The text of " + std::string(Words().owner) + " does not fit its TXTFMT " +
-                           Detail::Quoted(GetTextFormat()) + ": " + fault.reason + " at byte offset " +
-                           std::to_string(Data().Start() + fault.offset) + ".");
+        // Conformance samples end lines with a line feed alone or the text with Ctrl-Z; nothing is lost by that.
+        aFindings.AddWarning(std::string(CSMMsg::Warn::DATA_NOT_STANDARDS_COMPLIANT) + " The text of " + Words().owner +
+                             " does not fit its TXTFMT " + Detail::Quoted(GetTextFormat()) + ": " + fault.reason +
+                             " at byte offset " + std::to_string(Data().Start() + fault.offset) + ".");
     }
 }
 
