@@ -54,7 +54,8 @@ public:
     // False, with the outputs left as they were, when one of the texts is not a number.
     bool GetRPCOffsets(CoordinateValues& aOffsets) const;
     bool GetRPCScales(CoordinateValues& aScales) const;
-    /// The estimated errors in metres, at 68 percent: the bias that the images of a pass share, and the random part.
+    /// The estimated horizontal errors in metres: the part common to all points of the image, and the random part of
+    /// one.
     bool GetRPCErrors(double& aBias, double& aRandom) const;
 
 protected:
