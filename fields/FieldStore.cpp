@@ -13,8 +13,10 @@ constexpr std::uint32_t MOST_BYTES = UINT32_MAX;
 void FieldStore::Begin(std::size_t aBytes)
 {
     Clear();
-    m_arena.reserve(std::min<std::size_t>(aBytes, MOST_BYTES) + m_table.FieldCount());
-    m_entries.reserve(m_table.FieldCount());
+    const std::size_t fields = std::min(m_table.UsualFields(), m_table.FieldCount() + aBytes);
+    m_arena.resize(std::min<std::size_t>(aBytes, MOST_BYTES) + fields);
+    m_entries.reserve(fields);
+    m_index.reserve(m_table.Size() + 1 + fields);
     m_index.assign(m_table.Size(), 0);
 }
 
@@ -24,28 +26,33 @@ void FieldStore::Reserve(std::size_t aMoreFields, std::size_t aBytesLeft)
     if (entries > m_entries.capacity()) {
         m_entries.reserve(std::max(entries, m_entries.capacity() + m_entries.capacity() / 2));
     }
-    const std::size_t bytes = m_arena.size() + aBytesLeft + aMoreFields;
-    if (bytes > m_arena.capacity()) {
-        m_arena.reserve(bytes);
+    const std::size_t bytes = m_used + aBytesLeft + aMoreFields;
+    if (bytes > m_arena.size()) {
+        m_arena.resize(bytes);
     }
 }
 
 bool FieldStore::HasRoom(std::uint64_t aBytes) const noexcept
 {
-    const std::uint64_t held = m_arena.size();
-    return held < MOST_BYTES && aBytes < MOST_BYTES - held;
+    return m_used < MOST_BYTES && aBytes < MOST_BYTES - m_used;
+}
+
+std::uint32_t FieldStore::Append(std::string_view aValue)
+{
+    const std::size_t start = m_used;
+    const std::size_t end = start + aValue.size() + 1;
+    if (end > m_arena.size()) {
+        m_arena.resize(std::max(end, m_arena.size() + m_arena.size() / 2));
+    }
+    // What was not written yet is NUL, so the end of the value stands there already.
+    std::copy(aValue.begin(), aValue.end(), m_arena.data() + start);
+    m_used = end;
+    return static_cast<std::uint32_t>(start);
 }
 
 void FieldStore::Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue)
 {
-    FieldEntry entry;
-    entry.offset = static_cast<std::uint32_t>(m_arena.size());
-    entry.length = static_cast<std::uint32_t>(aValue.size());
-    entry.row = aRow;
-    entry.turns = aTurns;
-    m_arena.append(aValue);
-    m_arena.push_back('\0');
-    m_entries.push_back(entry);
+    m_entries.push_back({Append(aValue), static_cast<std::uint32_t>(aValue.size()), aRow, aTurns});
     m_index[aRow] = static_cast<std::uint32_t>(m_entries.size());
 }
 
@@ -80,11 +87,13 @@ void FieldStore::Finish()
         index[row] = index[row - 1];
     }
     index[0] = 0;
+    m_arena.resize(m_used);
 }
 
 void FieldStore::Clear() noexcept
 {
     m_arena.clear();
+    m_used = 0;
     m_entries.clear();
     m_index.clear();
     m_replaced.clear();
@@ -117,8 +126,11 @@ const FieldEntry* FieldStore::Find(std::uint16_t aRow, const Turns& aTurns) cons
     const auto entries = EntriesOf(aRow);
     // In most repeats every turn has the field, so the turn tells the place.
     const std::size_t guess = aTurns[0] == 0 ? 0 : aTurns[0] - 1;
-    if (guess < entries.size() && m_entries[entries[guess]].turns == aTurns) {
-        return &m_entries[entries[guess]];
+    if (guess < entries.size()) {
+        const FieldEntry& entry = m_entries[entries[guess]];
+        if (entry.turns[0] == aTurns[0] && entry.turns[1] == aTurns[1] && entry.turns[2] == aTurns[2]) {
+            return &entry;
+        }
     }
     const auto it = std::lower_bound(
         entries.begin(), entries.end(), aTurns,
@@ -159,10 +171,8 @@ void FieldStore::Replace(const FieldEntry& aEntry, std::string_view aValue)
         m_replaced.emplace_back(place, Position(aEntry));
     }
     FieldEntry& entry = m_entries[place];
-    entry.offset = static_cast<std::uint32_t>(m_arena.size());
+    entry.offset = Append(aValue);
     entry.length = static_cast<std::uint32_t>(aValue.size());
-    m_arena.append(aValue);
-    m_arena.push_back('\0');
 }
 
 bool FieldStore::operator==(const FieldStore& aOther) const noexcept

@@ -70,6 +70,8 @@ private:
     void Reserve(std::size_t aMoreFields, std::size_t aBytesLeft);
     /// Whether a value of that many bytes still gets an offset of 32 bits.
     bool HasRoom(std::uint64_t aBytes) const noexcept;
+    /// Where a NUL-terminated copy of the value stands.
+    std::uint32_t Append(std::string_view aValue);
     void Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue);
     /// The latest entry of a row while the walk goes on.
     const FieldEntry* Latest(std::uint16_t aRow) const noexcept;
@@ -79,7 +81,8 @@ private:
     void Clear() noexcept;
 
     FieldTable m_table;
-    std::string m_arena;
+    std::string m_arena;  // NUL behind the bytes used, which may be fewer only while the walk goes on
+    std::size_t m_used = 0;
     std::vector<FieldEntry> m_entries;
     // During the walk: the latest entry of each row, plus one. Afterwards: for each row the start of its entries in
     // the second half, which lists the entries row by row.

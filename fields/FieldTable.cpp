@@ -19,17 +19,18 @@ bool ToTurn(std::string_view aDigits, std::uint32_t& aTurn) noexcept
     return error == std::errc{} && end == last && aTurn != 0;
 }
 
-/// The number in the last "_n" of a name, which is cut off; false when there is none.
-bool CutUnderscore(std::string_view& aName, std::uint32_t& aTurn) noexcept
+/// The number in the "_n" at the end of a name, and what stands before it; false when there is none.
+bool CutUnderscore(std::string_view aName, std::string_view& aTag, std::uint32_t& aTurn) noexcept
 {
-    const auto mark = aName.rfind('_');
-    if (mark == std::string_view::npos || mark == 0 || mark + 1 == aName.size() || aName[mark + 1] == '0') {
+    std::size_t digits = aName.size();
+    while (digits != 0 && IsDigit(aName[digits - 1])) {
+        --digits;
+    }
+    if (digits < 2 || digits == aName.size() || aName[digits - 1] != '_' || aName[digits] == '0' ||
+        !ToTurn(aName.substr(digits), aTurn)) {
         return false;
     }
-    if (!ToTurn(aName.substr(mark + 1), aTurn)) {
-        return false;
-    }
-    aName.remove_suffix(aName.size() - mark);
+    aTag = aName.substr(0, digits - 1);
     return true;
 }
 
@@ -57,31 +58,6 @@ bool IsFixedText(std::string_view aRule) noexcept
 
 }  // namespace
 
-std::uint16_t FieldTable::Find(std::string_view aTag, std::size_t aDepth) const noexcept
-{
-    const auto tagOf = [this](std::uint16_t aRow) {
-        return std::string_view(m_rows[aRow].tag, m_links[aRow].tagLength);
-    };
-    const std::uint16_t* last = m_byTag + m_fieldCount;
-    const std::uint16_t* it = std::lower_bound(
-        m_byTag, last, aTag, [&](std::uint16_t aRow, std::string_view aWanted) { return tagOf(aRow) < aWanted; });
-    for (; it != last && aTag == tagOf(*it); ++it) {
-        if (m_links[*it].depth == aDepth) {
-            return *it;
-        }
-    }
-    last = m_byAlias + m_aliasCount;
-    it = std::lower_bound(m_byAlias, last, aTag, [this](std::uint16_t aRow, std::string_view aWanted) {
-        return std::string_view(m_rows[aRow].alias) < aWanted;
-    });
-    for (; it != last && aTag == m_rows[*it].alias; ++it) {
-        if (m_links[*it].depth == aDepth) {
-            return *it;
-        }
-    }
-    return NO_ROW;
-}
-
 std::uint16_t FieldTable::FindAny(std::string_view aTag) const noexcept
 {
     for (std::size_t depth = 0; depth <= MAX_LOOP_DEPTH; ++depth) {
@@ -96,22 +72,36 @@ std::uint16_t FieldTable::FindAny(std::string_view aTag) const noexcept
 std::uint16_t FieldTable::Resolve(std::string_view aName, Turns& aTurns) const noexcept
 {
     aTurns = {};
-    return Match(aName, 0, aTurns);
+    return m_naming == Naming::Underscore ? MatchUnderscores(aName, aTurns) : MatchDigits(aName, 0, aTurns);
 }
 
-// Cuts one turn after the other off the end until a field of that tag and depth is left. The turns are collected
-// innermost first and put in order at the end.
-std::uint16_t FieldTable::Match(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept
+// Names cannot meet, so the order of the tries does not matter: the more likely reading of a name that ends in a digit,
+// as a repeated field, comes first. Turns are cut off innermost first.
+
+std::uint16_t FieldTable::MatchUnderscores(std::string_view aName, Turns& aTurns) const noexcept
 {
-    // Names cannot meet, so the order of the tries does not matter: the more likely reading of a name that ends in a
-    // digit comes first.
-    const bool digit = !aName.empty() && aName.back() >= '0' && aName.back() <= '9';
-    const std::size_t most = m_naming == Naming::Underscore ? DIGITS_OF_A_TURN : MOST_DIGITS_OF_A_TURN;
-    for (std::size_t digits = DIGITS_OF_A_TURN; digit && aDepth < m_deepest && digits <= most; ++digits) {
+    std::array<std::string_view, MAX_LOOP_DEPTH + 1> tags{aName};
+    Turns cut{};
+    std::size_t depth = 0;
+    while (depth != m_deepest && CutUnderscore(tags[depth], tags[depth + 1], cut[depth])) {
+        ++depth;
+    }
+    std::uint16_t row = Find(tags[depth], depth);
+    while (row == NO_ROW && depth != 0) {
+        --depth;
+        row = Find(tags[depth], depth);
+    }
+    std::reverse_copy(cut.begin(), cut.begin() + static_cast<std::ptrdiff_t>(depth), aTurns.begin());
+    return row;
+}
+
+std::uint16_t FieldTable::MatchDigits(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept
+{
+    for (std::size_t digits = DIGITS_OF_A_TURN; aDepth != m_deepest && digits <= MOST_DIGITS_OF_A_TURN; ++digits) {
         std::string_view rest = aName;
         std::uint32_t& turn = aCut[aDepth];
-        if (m_naming == Naming::Underscore ? CutUnderscore(rest, turn) : CutDigits(rest, digits, turn)) {
-            const std::uint16_t row = Match(rest, aDepth + 1, aCut);
+        if (CutDigits(rest, digits, turn)) {
+            const std::uint16_t row = MatchDigits(rest, aDepth + 1, aCut);
             if (row != NO_ROW) {
                 return row;
             }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "fields/FieldRow.h"
+#include "fields/TagIndex.h"
+#include "foundation/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +18,6 @@ namespace ORMO::SensorModel::CSM::Detail {
 constexpr std::size_t MAX_LOOP_DEPTH = 3;
 /// The most turns that a table itself may state; counts in the data have no such bound.
 constexpr std::uint64_t MOST_TIMES = 0xFFFF;
-/// "No such row."
-constexpr std::uint16_t NO_ROW = 0xFFFF;
 /// Turn numbers of the loops around a field, counted from 1; 0 where there is no loop.
 using Turns = std::array<std::uint32_t, MAX_LOOP_DEPTH>;
 
@@ -34,27 +34,25 @@ struct RowLink
     std::uint16_t end = NO_ROW;  ///< the End of a group
     std::uint16_t ref = NO_ROW;  ///< the field that a mark or a Sized field looks at
     std::uint8_t depth = 0;      ///< number of repeats around the row
-    std::uint8_t tagLength = 0;  ///< characters of the tag
     bool structural = false;     ///< another row looks at this field
     std::uint32_t least = 0;     ///< of a group: bytes of the fixed fields in one turn, conditions left out
     std::uint32_t fields = 0;    ///< of a group: the number of plain fields in one turn, conditions left out
 };
 
-/// A view of a table: rows, links and the order by tag. Copies are cheap; what it shows lives as long as the process.
+/// A view of a table: rows, links and the index of tags. Copies are cheap; what it shows lives as long as the process.
 class FieldTable
 {
 public:
     constexpr FieldTable() noexcept = default;
-    constexpr FieldTable(const FieldRow* aRows, const RowLink* aLinks, const std::uint16_t* aByTag,
-                         const std::uint16_t* aByAlias, std::size_t aCount, std::size_t aFieldCount,
-                         std::size_t aAliasCount, std::size_t aDeepest, Naming aNaming) noexcept
+    constexpr FieldTable(const FieldRow* aRows, const RowLink* aLinks, TagIndex aTags, std::size_t aCount,
+                         std::size_t aFieldCount, std::size_t aUsualFields, std::size_t aDeepest,
+                         Naming aNaming) noexcept
         : m_rows(aRows),
           m_links(aLinks),
-          m_byTag(aByTag),
-          m_byAlias(aByAlias),
+          m_tags(aTags),
           m_count(aCount),
           m_fieldCount(aFieldCount),
-          m_aliasCount(aAliasCount),
+          m_usualFields(aUsualFields),
           m_deepest(aDeepest),
           m_naming(aNaming)
     {
@@ -66,10 +64,12 @@ public:
     constexpr std::span<const FieldRow> Rows() const noexcept { return {m_rows, m_count}; }
     /// Number of rows that describe a field.
     constexpr std::size_t FieldCount() const noexcept { return m_fieldCount; }
+    /// Number of fields in data that fill every condition and no repeat whose count they state themselves.
+    constexpr std::size_t UsualFields() const noexcept { return m_usualFields; }
     constexpr Naming NamingStyle() const noexcept { return m_naming; }
 
     /// The row of a base tag or of its alias at a loop depth, or NO_ROW.
-    std::uint16_t Find(std::string_view aTag, std::size_t aDepth) const noexcept;
+    std::uint16_t Find(std::string_view aTag, std::size_t aDepth) const noexcept { return m_tags.Find(aTag, aDepth); }
     /// The first row of a base tag or of its alias at any depth, or NO_ROW.
     std::uint16_t FindAny(std::string_view aTag) const noexcept;
     /// The row and turns that a field name such as "LON_4_1" or "LISH004" means; NO_ROW when there is none.
@@ -80,15 +80,15 @@ public:
     bool IsEditable(std::uint16_t aRow) const noexcept;
 
 private:
-    std::uint16_t Match(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept;
+    std::uint16_t MatchUnderscores(std::string_view aName, Turns& aTurns) const noexcept;
+    std::uint16_t MatchDigits(std::string_view aName, std::size_t aDepth, Turns& aCut) const noexcept;
 
     const FieldRow* m_rows = nullptr;
     const RowLink* m_links = nullptr;
-    const std::uint16_t* m_byTag = nullptr;    // field rows only, by tag, then by depth
-    const std::uint16_t* m_byAlias = nullptr;  // field rows with an alias, by alias, then by depth
+    TagIndex m_tags;
     std::size_t m_count = 0;
     std::size_t m_fieldCount = 0;
-    std::size_t m_aliasCount = 0;
+    std::size_t m_usualFields = 0;
     std::size_t m_deepest = 0;
     Naming m_naming = Naming::Underscore;
 };
@@ -133,17 +133,16 @@ struct FieldTableOf
 {
     const FieldRow* rows = nullptr;
     std::array<RowLink, N> links{};
-    std::array<std::uint16_t, N> byTag{};
-    std::array<std::uint16_t, N> byAlias{};
+    TagIndexOf<N> tags;
     std::size_t fieldCount = 0;
-    std::size_t aliasCount = 0;
+    std::size_t usualFields = 0;
     std::size_t deepest = 0;  ///< the largest number of repeats around a field
     Naming naming = Naming::Underscore;
     bool wellFormed = true;
 
     constexpr FieldTable View() const noexcept
     {
-        return FieldTable(rows, links.data(), byTag.data(), byAlias.data(), N, fieldCount, aliasCount, deepest, naming);
+        return FieldTable(rows, links.data(), tags.View(), N, fieldCount, usualFields, deepest, naming);
     }
 };
 
@@ -268,37 +267,32 @@ constexpr void MeasureGroups(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable
         link.least = static_cast<std::uint32_t>(least);
         link.fields = static_cast<std::uint32_t>(fields);
     }
+    for (std::size_t i = 0; i != N; ++i) {
+        const FieldRow& row = aRows[i];
+        if (row.IsField()) {
+            ++aTable.usualFields;
+        } else if (row.kind == RowKind::Repeat) {
+            aTable.usualFields += std::min(row.number, MOST_TIMES) * aTable.links[i].fields;
+            i = aTable.links[i].end;
+        }
+    }
 }
 
 template<std::size_t N>
-constexpr void OrderByTag(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
+constexpr void IndexTags(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
 {
     for (std::size_t i = 0; i != N; ++i) {
         if (aRows[i].IsField()) {
-            aTable.byTag[aTable.fieldCount++] = static_cast<std::uint16_t>(i);
+            aTable.tags.Add(aRows[i].tag, i, aTable.links[i].depth);
             aTable.deepest = std::max<std::size_t>(aTable.deepest, aTable.links[i].depth);
-            aTable.links[i].tagLength = static_cast<std::uint8_t>(std::string_view(aRows[i].tag).size());
-            if (aRows[i].alias != nullptr) {
-                aTable.byAlias[aTable.aliasCount++] = static_cast<std::uint16_t>(i);
-            }
+            ++aTable.fieldCount;
         }
     }
-    const auto byName = [&](bool aAlias) {
-        return [&, aAlias](std::uint16_t a, std::uint16_t b) {
-            const std::string_view left(aAlias ? aRows[a].alias : aRows[a].tag);
-            const int order = left.compare(aAlias ? aRows[b].alias : aRows[b].tag);
-            return order != 0 ? order < 0 : aTable.links[a].depth < aTable.links[b].depth;
-        };
-    };
-    std::sort(aTable.byTag.begin(), aTable.byTag.begin() + static_cast<std::ptrdiff_t>(aTable.fieldCount),
-              byName(false));
-    std::sort(aTable.byAlias.begin(), aTable.byAlias.begin() + static_cast<std::ptrdiff_t>(aTable.aliasCount),
-              byName(true));
-}
-
-constexpr bool IsDigit(char aCharacter) noexcept
-{
-    return aCharacter >= '0' && aCharacter <= '9';
+    for (std::size_t i = 0; i != N; ++i) {  // behind all tags, which are found first
+        if (aRows[i].IsField() && aRows[i].alias != nullptr) {
+            aTable.tags.Add(aRows[i].alias, i, aTable.links[i].depth);
+        }
+    }
 }
 
 /// The tag without a "_n" at its end that looks like a turn; the whole tag when there is none.
@@ -337,21 +331,29 @@ constexpr bool NamesMeet(std::string_view aShort, std::size_t aShortDepth, std::
 
 /// Two fields that could get the same name make a table unusable.
 template<std::size_t N>
-constexpr void CompareNames(const FieldRow (&aRows)[N], FieldTableOf<N>& aTable)
+constexpr void CompareNames(FieldTableOf<N>& aTable)
 {
+    struct Name
+    {
+        std::string_view tag;
+        std::size_t depth;
+    };
+    std::array<Name, N> names{};
     for (std::size_t i = 0; i != aTable.fieldCount; ++i) {
+        const TagEntry& entry = aTable.tags.entries[i];
+        names[i] = {entry.text, entry.key.depth};
+    }
+    const auto last = names.begin() + static_cast<std::ptrdiff_t>(aTable.fieldCount);
+    std::sort(names.begin(), last, [](const Name& aLeft, const Name& aRight) {
+        return aLeft.tag != aRight.tag ? aLeft.tag < aRight.tag : aLeft.depth < aRight.depth;
+    });
+    for (auto name = names.begin(); name != last; ++name) {
         // Behind a tag stand first those that begin with it.
-        const std::uint16_t a = aTable.byTag[i];
-        const std::string_view tag(aRows[a].tag);
-        for (std::size_t k = i + 1; k < aTable.fieldCount; ++k) {
-            const std::uint16_t b = aTable.byTag[k];
-            const std::string_view other(aRows[b].tag);
-            if (!other.starts_with(tag)) {
-                break;
-            }
-            const std::size_t depth = aTable.links[a].depth;
-            const bool repeated = depth > aTable.links[b].depth || (depth != 0 && aTable.naming != Naming::Underscore);
-            if ((tag == other || repeated) && NamesMeet(tag, depth, other, aTable.links[b].depth, aTable.naming)) {
+        for (auto other = name + 1; other != last && other->tag.starts_with(name->tag); ++other) {
+            const bool repeated =
+                name->depth > other->depth || (name->depth != 0 && aTable.naming != Naming::Underscore);
+            if ((name->tag == other->tag || repeated) &&
+                NamesMeet(name->tag, name->depth, other->tag, other->depth, aTable.naming)) {
                 aTable.wellFormed = false;
             }
         }
@@ -374,8 +376,8 @@ constexpr FieldTableOf<N> MakeTable(const FieldRow (&aRows)[N], Naming aNaming =
     if (table.wellFormed) {
         TableBuild::LinkReferences(aRows, table);
         TableBuild::MeasureGroups(aRows, table);
-        TableBuild::OrderByTag(aRows, table);
-        TableBuild::CompareNames(aRows, table);
+        TableBuild::IndexTags(aRows, table);
+        TableBuild::CompareNames(table);
     }
     return table;
 }

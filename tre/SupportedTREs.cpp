@@ -7,7 +7,9 @@
 #include "tre/groups/SupportedTreGroups.h"
 #include "tre/groups/SupportedTreNSDE.h"
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -24,6 +26,62 @@ const std::array<const SupportedTRE*, 11>& AllGroups()
         &SupportedTreResearchSDE::Instance(), &SupportedTreRPF::Instance(),
         &SupportedTreRSM::Instance()};
     return groups;
+}
+
+/// A tag of the groups with a fixed list.
+struct ListedTag
+{
+    std::string_view tag;
+    const SupportedTreGroup* group;
+    const Detail::TreEntry* entry;
+    bool special;  ///< whether the special providers are asked before the group
+};
+
+/// The tags of all groups in order of the tags.
+const std::vector<ListedTag>& AllTags()
+{
+    static const std::vector<ListedTag> tags = [] {
+        std::vector<ListedTag> found;
+        bool special = false;
+        for (const SupportedTRE* const asked : AllGroups()) {
+            const auto* const group = dynamic_cast<const SupportedTreGroup*>(asked);
+            if (group == nullptr) {
+                special = true;
+                continue;
+            }
+            std::size_t count = 0;
+            const Detail::TreEntry* const entries = group->GetEntries(count);
+            for (std::size_t i = 0; i != count; ++i) {
+                found.push_back({entries[i].tag, group, &entries[i], special});
+            }
+        }
+        std::stable_sort(found.begin(), found.end(),
+                         [](const ListedTag& aLeft, const ListedTag& aRight) { return aLeft.tag < aRight.tag; });
+        return found;
+    }();
+    return tags;
+}
+
+/// The tag as the first group with a fixed list has it, or null.
+const ListedTag* FindListed(const char* aTag)
+{
+    const std::string_view tag = Detail::Trimmed(aTag);
+    const std::vector<ListedTag>& tags = AllTags();
+    const auto it =
+        std::lower_bound(tags.begin(), tags.end(), tag,
+                         [](const ListedTag& aListed, std::string_view aWanted) { return aListed.tag < aWanted; });
+    return it != tags.end() && it->tag == tag ? &*it : nullptr;
+}
+
+/// The first group that knows the tag, or null.
+const SupportedTRE* GroupThatKnows(const char* aTag)
+{
+    const ListedTag* const listed = FindListed(aTag);
+    const SupportedTreNSDE& special = SupportedTreNSDE::Instance();
+    if ((listed == nullptr || listed->special) && special.AbleToCreateTRE(aTag, nullptr)) {
+        return &special;
+    }
+    return listed == nullptr ? nullptr : listed->group;
 }
 
 }  // namespace
@@ -92,10 +150,9 @@ const SupportedTRE* SupportedTREs::GroupOf(SupportedTreFactory::Enum aGroup)
 
 bool SupportedTREs::AbleToCreateTRE(const char* aTag, SupportedTreFactory::Enum* aGroup) const
 {
-    for (const SupportedTRE* const group : AllGroups()) {
-        if (group->AbleToCreateTRE(aTag, aGroup)) {
-            return true;
-        }
+    const SupportedTRE* const group = GroupThatKnows(aTag);
+    if (group != nullptr) {
+        return group->AbleToCreateTRE(aTag, aGroup);
     }
     if (aGroup != nullptr) {
         *aGroup = SupportedTreFactory::UNKNOWN;
@@ -159,23 +216,14 @@ void SupportedTREs::GetTRETypes(const char**& aTags, const TRE::Type*& aTypes, s
 
 TRE::Type SupportedTREs::GetTreFieldType(const char* aTag)
 {
-    for (const SupportedTRE* const group : AllGroups()) {
-        const TRE::Type type = group->GetTREType(aTag);
-        if (type != TRE::TRE_TYPE_UNKNOWN) {
-            return type;
-        }
-    }
-    return TRE::TRE_TYPE_UNKNOWN;
+    const SupportedTRE* const group = GroupThatKnows(aTag);
+    return group == nullptr ? TRE::TRE_TYPE_UNKNOWN : group->GetTREType(aTag);
 }
 
 const char* SupportedTREs::GetGroupDescription(const char* aTag)
 {
-    for (const SupportedTreGroup* const group : GetGroups()) {
-        if (group->FindEntry(Detail::Trimmed(aTag)) != nullptr) {
-            return group->GetDescription();
-        }
-    }
-    return NITFCnst::TRE_TYPE_UNKNOWN;
+    const ListedTag* const listed = FindListed(aTag);
+    return listed == nullptr ? NITFCnst::TRE_TYPE_UNKNOWN : listed->group->GetDescription();
 }
 
 bool TRE::GetNamesOfAllSupportedTREs(const char**& aNames, std::size_t& aCount)
@@ -196,13 +244,8 @@ std::size_t TRE::GetNumOfSupportedTREs()
 
 const char* TRE::IsSupportedTRE(const char* aTag, bool aTypedOnly)
 {
-    for (const SupportedTreGroup* const group : SupportedTREs::GetGroups()) {
-        const Detail::TreEntry* const entry = group->FindEntry(Detail::Trimmed(aTag));
-        if (entry != nullptr) {
-            return !aTypedOnly || entry->IsTyped() ? entry->tag : nullptr;
-        }
-    }
-    return nullptr;
+    const ListedTag* const listed = FindListed(aTag);
+    return listed != nullptr && (!aTypedOnly || listed->entry->IsTyped()) ? listed->entry->tag : nullptr;
 }
 
 }  // namespace ORMO::SensorModel::CSM

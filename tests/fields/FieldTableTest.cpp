@@ -119,6 +119,30 @@ TEST(FieldTableTest, AliasesAreFoundWithTurnsAndTagsComeFirst)
     EXPECT_EQ("LON_2", walked.store.Name(*walked.store.Find("LONGITUDE_2")));
 }
 
+TEST(FieldTableTest, OnlyTheWholeTagIsFound)
+{
+    static constexpr FieldRow ROWS[] = {F("A", 1),
+                                        F("AB", 1),
+                                        F("ABCDEFGH", 1),
+                                        F("ABCDEFGHI", 1),
+                                        F("ABCDEFGHIJKLMNOP", 1),
+                                        F("ABCDEFGHIJKLMNOPQ", 1),
+                                        F("ABCDEFGHIJKLMNOPR", 1)};
+    static constexpr auto TABLE = MakeTable(ROWS);
+    static_assert(TABLE.wellFormed);
+    const FieldTable table = TABLE.View();
+    for (std::uint16_t row = 0; row != std::size(ROWS); ++row) {
+        EXPECT_EQ(row, table.Find(ROWS[row].tag, 0));
+        EXPECT_EQ(NO_ROW, table.Find(ROWS[row].tag, 1)) << "no repeat is around it";
+    }
+    using namespace std::string_view_literals;
+    for (const auto name : {""sv, "B"sv, "ABC"sv, "ABCDEFGHJ"sv, "ABCDEFGHIJKLMNO"sv, "ABCDEFGHIJKLMNOPS"sv,
+                            "ABCDEFGHIJKLMNOPQR"sv, "A\0"sv, "AB\0\0\0\0\0\0"sv, "ABCDEFGH\0"sv, "\0"sv}) {
+        EXPECT_EQ(NO_ROW, table.Find(name, 0)) << name;
+    }
+    EXPECT_EQ(NO_ROW, FieldTable().Find("A", 0)) << "a table without rows";
+}
+
 TEST(FieldTableTest, FixedPartsOfTheLayoutAreNotEditable)
 {
     static constexpr FieldRow ROWS[] = {
