@@ -171,7 +171,7 @@ void FieldStore::Replace(const FieldEntry& aEntry, std::string_view aValue)
         m_replaced.emplace_back(place, Position(aEntry));
     }
     FieldEntry& entry = m_entries[place];
-    entry.offset = Append(aValue);
+    entry.offset = Append(std::string(aValue));  // a copy, for the value may be a part of another one
     entry.length = static_cast<std::uint32_t>(aValue.size());
 }
 

@@ -225,6 +225,14 @@ bool IsNumberForm(Form aForm) noexcept
 
 }  // namespace
 
+bool FirstRange(std::string_view aRule, std::uint64_t& aLeast, std::uint64_t& aMost) noexcept
+{
+    const std::string_view range = WithoutMeaning(NextAlternative(aRule));
+    const auto dots = range.find(RANGE);
+    return dots != std::string_view::npos && ToCount(range.substr(0, dots), aLeast) &&
+           ToCount(range.substr(dots + RANGE.size()), aMost);
+}
+
 std::string_view NextAlternative(std::string_view& aRest) noexcept
 {
     const auto mark = aRest.find('|');

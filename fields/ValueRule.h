@@ -44,6 +44,9 @@ enum class Verdict : std::uint8_t
 /// True when every alternative of the rule can be understood and met; tests hold all tables to it.
 [[nodiscard]] bool IsRule(std::string_view aRule) noexcept;
 
+/// The ends of a range of counts that a rule begins with; false when it begins with something else.
+[[nodiscard]] bool FirstRange(std::string_view aRule, std::uint64_t& aLeast, std::uint64_t& aMost) noexcept;
+
 /// The first alternative of a list and the rest behind the "|".
 std::string_view NextAlternative(std::string_view& aRest) noexcept;
 

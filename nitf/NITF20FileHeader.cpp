@@ -5,7 +5,8 @@
 #include "fields/Number.h"
 #include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
-#include "nitf/SegmentLimits.h"
+#include "nitf/HeaderWords.h"
+#include "nitf/SegmentKinds.h"
 #include "segments/SecurityRows.h"
 #include "segments/SegmentContents.h"
 
@@ -106,29 +107,14 @@ constexpr auto TABLE = MakeTable(ROWS, Naming::ThreeDigits);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) + NAME_WIDTH == 388);
 
-constexpr Detail::SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_NITF_FILE_HEADER,
-    .element = NITFCnst::XML_ELEMENT_FH_FIELD,
-    .indent = "    ",
-    .requiredPrefix = "ERROR: Failed to extract required/optional field ",
-    .conditionalPrefix = "ERROR: Failed to extract conditional field ",
-    .streamSuffix = " from the NITF file header data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.0 file header field values from the input NITF file header data "
-        "stream.",
-    .emptyName = "ERROR: NULL/empty input NITF file header field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF file header/file header TRE field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF file header/file header TRE field name string.",
-    .requested = "ERROR: Requested NITF file header field ",
-    .notFound = " not found.",
-    .requestedTre = "ERROR: Requested NITF file header TRE field ",
-    .isNotAField = " is not a NITF file header field."};
+constexpr SegmentWords WORDS = FileHeaderWords(
+    "ERROR: Failed to extract required/optional field ",
+    "ERROR: Failed to get all the NITF 2.0 file header field values from the input NITF file header data "
+    "stream.");
 
-// NITF 2.0 has upper bounds only and accepts all nines; NITF 2.1 refuses them, but for the RES subheader.
-constexpr KindLimits LIMITS[] = {
-    {"IM", "NUMI", "LISH", "LI", 0, 999999, 0, 9999999999}, {"SY", "NUMS", "LSSH", "LS", 0, 9999, 0, 999999},
-    {"LA", "NUML", "LLSH", "LL", 0, 9999, 0, 320},          {"TE", "NUMT", "LTSH", "LT", 0, 9999, 0, 99999},
-    {"DE", "NUMDES", "LDSH", "LD", 0, 9999, 0, 999999999},  {"RE", "NUMRES", "LRESH", "LRE", 0, 9999, 0, 9999999},
+constexpr KindFields KINDS[] = {
+    {"IM", "NUMI", "LISH", "LI"}, {"SY", "NUMS", "LSSH", "LS"},   {"LA", "NUML", "LLSH", "LL"},
+    {"TE", "NUMT", "LTSH", "LT"}, {"DE", "NUMDES", "LDSH", "LD"}, {"RE", "NUMRES", "LRESH", "LRE"},
 };
 
 }  // namespace
@@ -137,17 +123,8 @@ NITF20FileHeader::NITF20FileHeader(const char* aFileName, const char* aRaw, std:
                                    bool aSpecificOnly)
     : NITFFileHeader(aFileName, NITFCnst::NITF_VERSION_NUMBER_20, NITFCnst::STR_NITF_0200, Table())
 {
-    Init(aRaw == nullptr ? std::string() : std::string(aRaw, aLength), aStreaming, LIMITS, std::size(LIMITS),
+    Init(aRaw == nullptr ? std::string() : std::string(aRaw, aLength), aStreaming, KINDS, std::size(KINDS),
          aSpecificOnly);
-}
-
-NITF20FileHeader::NITF20FileHeader(const NITF20FileHeader& aOther) = default;
-NITF20FileHeader::~NITF20FileHeader() = default;
-
-NITF20FileHeader& NITF20FileHeader::operator=(const NITF20FileHeader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF20FileHeader::Table() noexcept
@@ -164,6 +141,12 @@ bool NITF20FileHeader::GetFieldLengths(const char* aTag, std::size_t& aSmallest,
 const Detail::SegmentWords& NITF20FileHeader::Words() const
 {
     return WORDS;
+}
+
+// Every NITF 2.0 length may be smaller than the standard says, and all nines are a length.
+std::uint64_t NITF20FileHeader::LeastLength(std::uint64_t) const noexcept
+{
+    return 0;
 }
 
 bool NITF20FileHeader::CheckVersionSpecificFields(std::string&)

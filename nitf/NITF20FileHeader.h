@@ -3,6 +3,7 @@
 #include "nitf/NITFFileHeader.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace ORMO::SensorModel::CSM {
@@ -16,12 +17,15 @@ public:
     /// ImageSupportDataConstructionException with all that was wrong.
     NITF20FileHeader(const char* aFileName, const char* aRaw, std::size_t aLength, bool aStreaming = false,
                      bool aSpecificOnly = false);
-    NITF20FileHeader(const NITF20FileHeader& aOther);
-    ~NITF20FileHeader() override;
+    NITF20FileHeader(const NITF20FileHeader& aOther) = default;
     using NITFFileHeader::operator=;
     using NITFFileHeader::operator==;
     using NITFFileHeader::operator!=;
-    NITF20FileHeader& operator=(const NITF20FileHeader& aOther);
+    NITF20FileHeader& operator=(const NITF20FileHeader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF20FileHeader& aOther) const { return NITFFileHeader::operator==(aOther); }
     bool operator!=(const NITF20FileHeader& aOther) const { return !(*this == aOther); }
 
@@ -32,6 +36,7 @@ public:
 
 protected:
     const Detail::SegmentWords& Words() const override;
+    std::uint64_t LeastLength(std::uint64_t aStandard) const noexcept override;
     bool CheckVersionSpecificFields(std::string& aErrors) override;
     void CheckFileHeaderVersion() const override;
 };

@@ -3,8 +3,8 @@
 #include "fields/FieldTable.h"
 #include "fields/Number.h"
 #include "foundation/Ascii.h"
+#include "nitf/HeaderWords.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -87,23 +87,9 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 426);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_IMAGE_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_IS_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract required field ",
-    .conditionalPrefix = "ERROR: Failed to extract conditional field ",
-    .streamSuffix = " from the image subheader data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.0 image subheader field values from the input image subheader data "
-        "stream.",
-    .emptyName = "ERROR: NULL/empty input NITF image segment field name string.",
-    .emptyTextName = "ERROR: NULL/empty input image subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input image subheader TRE field name string.",
-    .requested = "ERROR: Requested image subheader field ",
-    .notFound = " is not a NITF image segment field.",
-    .requestedTre = "ERROR: Requested image subheader TRE field ",
-    .isNotAField = " is not a NITF image segment field."};
+constexpr SegmentWords WORDS = ImageWords(
+    "ERROR: Failed to get all the NITF 2.0 image subheader field values from the input image subheader data "
+    "stream.");
 
 }  // namespace
 
@@ -115,15 +101,6 @@ NITF20ImageSubheader::NITF20ImageSubheader(const char* aRaw, long aLength, const
     InitNITFImageSubheader(aInfo.GetSegmentIndex());
     ReadImageSubheader(aRaw, aLength, aInfo, aSpecificOnly, aByteOrder,
                        "NITF20ImageSubheader::InitNITF20ImageSubheader");
-}
-
-NITF20ImageSubheader::NITF20ImageSubheader(const NITF20ImageSubheader& aOther) = default;
-NITF20ImageSubheader::~NITF20ImageSubheader() = default;
-
-NITF20ImageSubheader& NITF20ImageSubheader::operator=(const NITF20ImageSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF20ImageSubheader::Table() noexcept

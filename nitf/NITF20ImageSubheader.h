@@ -15,12 +15,15 @@ public:
     /// that was wrong.
     NITF20ImageSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                          Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly = false);
-    NITF20ImageSubheader(const NITF20ImageSubheader& aOther);
-    ~NITF20ImageSubheader() override;
+    NITF20ImageSubheader(const NITF20ImageSubheader& aOther) = default;
     using NITFImageSubheader::operator=;
     using NITFImageSubheader::operator==;
     using NITFImageSubheader::operator!=;
-    NITF20ImageSubheader& operator=(const NITF20ImageSubheader& aOther);
+    NITF20ImageSubheader& operator=(const NITF20ImageSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF20ImageSubheader& aOther) const { return NITFImageSubheader::operator==(aOther); }
     bool operator!=(const NITF20ImageSubheader& aOther) const { return !(*this == aOther); }
 

@@ -5,9 +5,9 @@
 #include "fields/Number.h"
 #include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
-#include "nitf/SegmentLimits.h"
+#include "nitf/HeaderWords.h"
+#include "nitf/SegmentKinds.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
 
 #include <iterator>
 #include <string_view>
@@ -81,23 +81,10 @@ constexpr auto TABLE = MakeTable(ROWS, Naming::ThreeDigits);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 388);
 
-constexpr Detail::SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_NITF_FILE_HEADER,
-    .element = NITFCnst::XML_ELEMENT_FH_FIELD,
-    .indent = "    ",
-    .requiredPrefix = "ERROR: Failed to extract required field ",
-    .conditionalPrefix = "ERROR: Failed to extract conditional field ",
-    .streamSuffix = " from the NITF file header data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.1 file header field values from the input NITF file header data "
-        "stream.",
-    .emptyName = "ERROR: NULL/empty input NITF file header field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF file header/file header TRE field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF file header/file header TRE field name string.",
-    .requested = "ERROR: Requested NITF file header field ",
-    .notFound = " not found.",
-    .requestedTre = "ERROR: Requested NITF file header TRE field ",
-    .isNotAField = " is not a NITF file header field."};
+constexpr SegmentWords WORDS = FileHeaderWords(
+    "ERROR: Failed to extract required field ",
+    "ERROR: Failed to get all the NITF 2.1 file header field values from the input NITF file header data "
+    "stream.");
 
 // The fewest data bytes behind UDHOFL or XHDLOFL: the tag and length of one TRE and a byte of it.
 constexpr std::size_t LEAST_EXTENSION_BYTES = 12;
@@ -109,11 +96,9 @@ const char* VersionText(const char* aRaw, std::size_t aLength) noexcept
     return nsif ? NITFCnst::STR_NSIF_0100 : NITFCnst::STR_NITF_0210;
 }
 
-// NITF 2.0 has upper bounds only and accepts all nines; NITF 2.1 refuses them, but for the RES subheader.
-constexpr KindLimits LIMITS[] = {
-    {"IM", "NUMI", "LISH", "LI", 439, 999998, 1, 9999999998}, {"SY", "NUMS", "LSSH", "LS", 258, 9998, 1, 999998},
-    {"TE", "NUMT", "LTSH", "LT", 282, 9998, 1, 99998},        {"DE", "NUMDES", "LDSH", "LD", 200, 9998, 1, 999999998},
-    {"RE", "NUMRES", "LRESH", "LRE", 200, 9999, 1, 9999999},
+constexpr KindFields KINDS[] = {
+    {"IM", "NUMI", "LISH", "LI"},   {"SY", "NUMS", "LSSH", "LS"},     {"TE", "NUMT", "LTSH", "LT"},
+    {"DE", "NUMDES", "LDSH", "LD"}, {"RE", "NUMRES", "LRESH", "LRE"},
 };
 
 }  // namespace
@@ -122,17 +107,8 @@ NITF21FileHeader::NITF21FileHeader(const char* aFileName, const char* aRaw, std:
                                    bool aSpecificOnly)
     : NITFFileHeader(aFileName, NITFCnst::NITF_VERSION_NUMBER_21, VersionText(aRaw, aLength), Table())
 {
-    Init(aRaw == nullptr ? std::string() : std::string(aRaw, aLength), aStreaming, LIMITS, std::size(LIMITS),
+    Init(aRaw == nullptr ? std::string() : std::string(aRaw, aLength), aStreaming, KINDS, std::size(KINDS),
          aSpecificOnly);
-}
-
-NITF21FileHeader::NITF21FileHeader(const NITF21FileHeader& aOther) = default;
-NITF21FileHeader::~NITF21FileHeader() = default;
-
-NITF21FileHeader& NITF21FileHeader::operator=(const NITF21FileHeader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF21FileHeader::Table() noexcept

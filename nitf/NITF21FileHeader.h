@@ -16,12 +16,15 @@ public:
     /// ImageSupportDataConstructionException with all that was wrong.
     NITF21FileHeader(const char* aFileName, const char* aRaw, std::size_t aLength, bool aStreaming = false,
                      bool aSpecificOnly = false);
-    NITF21FileHeader(const NITF21FileHeader& aOther);
-    ~NITF21FileHeader() override;
+    NITF21FileHeader(const NITF21FileHeader& aOther) = default;
     using NITFFileHeader::operator=;
     using NITFFileHeader::operator==;
     using NITFFileHeader::operator!=;
-    NITF21FileHeader& operator=(const NITF21FileHeader& aOther);
+    NITF21FileHeader& operator=(const NITF21FileHeader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF21FileHeader& aOther) const { return NITFFileHeader::operator==(aOther); }
     bool operator!=(const NITF21FileHeader& aOther) const { return !(*this == aOther); }
 

@@ -4,8 +4,8 @@
 #include "fields/FieldWalk.h"
 #include "fields/Number.h"
 #include "foundation/Ascii.h"
+#include "nitf/HeaderWords.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -98,23 +98,9 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 426);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_IMAGE_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_IS_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract required field ",
-    .conditionalPrefix = "ERROR: Failed to extract conditional field ",
-    .streamSuffix = " from the image subheader data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.1 image subheader field values from the input image subheader data "
-        "stream.",
-    .emptyName = "ERROR: NULL/empty input NITF image segment field name string.",
-    .emptyTextName = "ERROR: NULL/empty input image subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input image subheader TRE field name string.",
-    .requested = "ERROR: Requested image subheader field ",
-    .notFound = " is not a NITF image segment field.",
-    .requestedTre = "ERROR: Requested image subheader TRE field ",
-    .isNotAField = " is not a NITF image segment field."};
+constexpr SegmentWords WORDS = ImageWords(
+    "ERROR: Failed to get all the NITF 2.1 image subheader field values from the input image subheader data "
+    "stream.");
 
 }  // namespace
 
@@ -126,15 +112,6 @@ NITF21ImageSubheader::NITF21ImageSubheader(const char* aRaw, long aLength, const
     InitNITFImageSubheader(aInfo.GetSegmentIndex());
     ReadImageSubheader(aRaw, aLength, aInfo, aSpecificOnly, aByteOrder,
                        "NITF21ImageSubheader::InitNITF21ImageSubheader");
-}
-
-NITF21ImageSubheader::NITF21ImageSubheader(const NITF21ImageSubheader& aOther) = default;
-NITF21ImageSubheader::~NITF21ImageSubheader() = default;
-
-NITF21ImageSubheader& NITF21ImageSubheader::operator=(const NITF21ImageSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF21ImageSubheader::Table() noexcept

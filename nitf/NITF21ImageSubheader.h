@@ -15,12 +15,15 @@ public:
     /// that was wrong.
     NITF21ImageSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                          Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly = false);
-    NITF21ImageSubheader(const NITF21ImageSubheader& aOther);
-    ~NITF21ImageSubheader() override;
+    NITF21ImageSubheader(const NITF21ImageSubheader& aOther) = default;
     using NITFImageSubheader::operator=;
     using NITFImageSubheader::operator==;
     using NITFImageSubheader::operator!=;
-    NITF21ImageSubheader& operator=(const NITF21ImageSubheader& aOther);
+    NITF21ImageSubheader& operator=(const NITF21ImageSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF21ImageSubheader& aOther) const { return NITFImageSubheader::operator==(aOther); }
     bool operator!=(const NITF21ImageSubheader& aOther) const { return !(*this == aOther); }
 

@@ -3,13 +3,15 @@
 #include "fields/FieldWalk.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
+#include "fields/ValueRule.h"
 #include "fields/Xml.h"
 #include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
-#include "nitf/SegmentLimits.h"
+#include "nitf/SegmentKinds.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
 #include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 #include "tre/TREFactory.h"
 
 #include <algorithm>
@@ -112,7 +114,7 @@ bool NITFFileHeader::CheckVersionSpecificFields(std::string&)
     return true;
 }
 
-void NITFFileHeader::Init(std::string aRaw, bool aStreaming, const Detail::KindLimits* aKinds, std::size_t aKindCount,
+void NITFFileHeader::Init(std::string aRaw, bool aStreaming, const Detail::KindFields* aKinds, std::size_t aKindCount,
                           bool aSpecificOnly)
 {
     const std::string source = std::string(ClassName()) + "::" + ClassName();
@@ -148,31 +150,43 @@ void NITFFileHeader::Init(std::string aRaw, bool aStreaming, const Detail::KindL
     CheckForTreRPFHDR();
 }
 
-bool NITFFileHeader::ExtractRelatedSegmentFields(const Detail::KindLimits& aKind, std::string& aErrors)
+std::uint64_t NITFFileHeader::LeastLength(std::uint64_t aStandard) const noexcept
+{
+    return aStandard;
+}
+
+bool NITFFileHeader::ExtractLengths(const char* aTag, std::size_t aCount, std::vector<std::uint64_t>& aLengths,
+                                    std::string& aErrors)
+{
+    const Detail::FieldTable& table = Contents().fields.Table();
+    std::uint64_t least = 0;
+    std::uint64_t most = 0;
+    const bool bounded = Detail::FirstRange(table.Row(table.FindAny(aTag)).values, least, most);
+    least = LeastLength(least);
+    aLengths.resize(aCount);
+    for (std::size_t turn = 1; turn <= aCount; ++turn) {
+        const std::string name = TurnName(aTag, turn);
+        std::uint64_t& length = aLengths[turn - 1];
+        if (!bounded || !Detail::ToCount(FieldText(name), length) || length < least || length > most) {
+            Detail::AppendBlock(aErrors,
+                                STREAM_ERROR + ("value of field " + Quoted(aTag)) + " is invalid.\n" + PlaceOf(name));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool NITFFileHeader::ExtractRelatedSegmentFields(const Detail::KindFields& aKind, std::string& aErrors)
 {
     NITFSegmentLengths lengths;
     lengths.type = aKind.type;
     lengths.count = static_cast<std::size_t>(NumberOf(aKind.count));
-    lengths.headers.reserve(lengths.count);
-    lengths.data.reserve(lengths.count);
-    for (std::size_t turn = 1; turn <= lengths.count; ++turn) {
-        std::uint64_t header = 0;
-        std::uint64_t data = 0;
-        for (const bool isHeader : {true, false}) {
-            const char* const tag = isHeader ? aKind.header : aKind.data;
-            const std::string name = TurnName(tag, turn);
-            std::uint64_t& value = isHeader ? header : data;
-            const std::uint64_t least = isHeader ? aKind.leastHeader : aKind.leastData;
-            const std::uint64_t most = isHeader ? aKind.mostHeader : aKind.mostData;
-            if (!Detail::ToCount(FieldText(name), value) || value < least || value > most) {
-                Detail::AppendBlock(
-                    aErrors, STREAM_ERROR + ("value of field " + Quoted(tag)) + " is invalid.\n" + PlaceOf(name));
-                return false;
-            }
-        }
-        lengths.headers.push_back(static_cast<std::uint32_t>(header));
-        lengths.data.push_back(data);
+    std::vector<std::uint64_t> headers;
+    if (!ExtractLengths(aKind.header, lengths.count, headers, aErrors) ||
+        !ExtractLengths(aKind.data, lengths.count, lengths.data, aErrors)) {
+        return false;
     }
+    lengths.headers.assign(headers.begin(), headers.end());
     m_lengths.push_back(std::move(lengths));
     return true;
 }

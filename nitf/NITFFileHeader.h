@@ -11,7 +11,7 @@
 namespace ORMO::SensorModel::CSM {
 
 namespace Detail {
-struct KindLimits;
+struct KindFields;
 }
 
 class RawNITFMetadata;
@@ -107,8 +107,10 @@ protected:
     std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;
 
     /// Reads and checks everything; raises ImageSupportDataConstructionException with the accumulated text.
-    void Init(std::string aRaw, bool aStreaming, const Detail::KindLimits* aKinds, std::size_t aKindCount,
+    void Init(std::string aRaw, bool aStreaming, const Detail::KindFields* aKinds, std::size_t aKindCount,
               bool aSpecificOnly);
+    /// The least length of a segment part that this version accepts, from the least one of the standard.
+    virtual std::uint64_t LeastLength(std::uint64_t aStandard) const noexcept;
     /// Checks of one version after its fields were read; false with a text.
     virtual bool CheckVersionSpecificFields(std::string& aErrors);
     virtual void CheckFileHeaderVersion() const = 0;
@@ -119,7 +121,9 @@ private:
     std::size_t CountOf(const char* aType) const noexcept;
     const NITFSegmentLengths* LengthsOf(const char* aType) const noexcept;
     bool CopyLengths(const char* aType, std::vector<std::uint64_t>& aData, std::vector<std::uint32_t>& aHeaders) const;
-    bool ExtractRelatedSegmentFields(const Detail::KindLimits& aKind, std::string& aErrors);
+    bool ExtractLengths(const char* aTag, std::size_t aCount, std::vector<std::uint64_t>& aLengths,
+                        std::string& aErrors);
+    bool ExtractRelatedSegmentFields(const Detail::KindFields& aKind, std::string& aErrors);
     bool ExtractFileLength(std::string& aErrors);
     void ExtractFileHeaderTREs(bool aSpecificOnly);
     void CheckForTreRPFHDR();

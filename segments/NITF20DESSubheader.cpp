@@ -4,7 +4,7 @@
 #include "fields/FieldWalk.h"
 #include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 #include <algorithm>
 #include <utility>
@@ -54,24 +54,9 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 200);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_DATA_EXTENSION_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_DES_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract DES required field ",
-    .conditionalPrefix = "ERROR: Failed to extract DES conditional field ",
-    .streamSuffix = " from the DES subheader data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.0 DES subheader field values from the input DES subheader data stream.",
-    .emptyName = "ERROR: NULL/empty input NITF DES subheader field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF DES subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF DES subheader field name string.",
-    .requested = "ERROR: Requested NITF DES subheader field ",
-    .notFound = " not found.",
-    .requestedTre = "ERROR: Requested TRE_OVERFLOW TRE field ",
-    .isNotAField = nullptr,
-    .naming = FieldNaming::PositionAndTag,
-    .className = "NITF20DESSubheader"};
+constexpr SegmentWords WORDS = DesWords(
+    "NITF20DESSubheader",
+    "ERROR: Failed to get all the NITF 2.0 DES subheader field values from the input DES subheader data stream.");
 
 }  // namespace
 
@@ -82,15 +67,6 @@ NITF20DESSubheader::NITF20DESSubheader(const char* aRaw, long aLength, const NIT
 {
     InitNITFDES(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
                 "NITF20DESSubheader::InitNITF20DESSubheader");
-}
-
-NITF20DESSubheader::NITF20DESSubheader(const NITF20DESSubheader& aOther) = default;
-NITF20DESSubheader::~NITF20DESSubheader() = default;
-
-NITF20DESSubheader& NITF20DESSubheader::operator=(const NITF20DESSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF20DESSubheader::Table() noexcept

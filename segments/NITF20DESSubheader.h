@@ -18,12 +18,15 @@ public:
     NITF20DESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                        std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                        bool aSpecificOnly = false);
-    NITF20DESSubheader(const NITF20DESSubheader& aOther);
-    ~NITF20DESSubheader() override;
+    NITF20DESSubheader(const NITF20DESSubheader& aOther) = default;
     using NITFDESSubheader::operator=;
     using NITFDESSubheader::operator==;
     using NITFDESSubheader::operator!=;
-    NITF20DESSubheader& operator=(const NITF20DESSubheader& aOther);
+    NITF20DESSubheader& operator=(const NITF20DESSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF20DESSubheader& aOther) const { return NITFDESSubheader::operator==(aOther); }
     bool operator!=(const NITF20DESSubheader& aOther) const { return !(*this == aOther); }
 

@@ -4,7 +4,7 @@
 #include "fields/FieldWalk.h"
 #include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 #include <utility>
 
@@ -33,24 +33,9 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 200);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_RESERVED_EXTENSION_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_RES_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract RES required field ",
-    .conditionalPrefix = "ERROR: Failed to extract RES conditional field ",
-    .streamSuffix = " from the RES subheader data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.0 RES subheader field values from the input RES subheader data stream.",
-    .emptyName = "ERROR: NULL/empty input NITF RES subheader field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF RES subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF RES subheader field name string.",
-    .requested = "ERROR: Requested NITF RES subheader field ",
-    .notFound = " not found.",
-    .requestedTre = "ERROR: Requested NITF RES subheader field ",
-    .isNotAField = nullptr,
-    .naming = FieldNaming::PositionAndTag,
-    .className = "NITF20RESSubheader"};
+constexpr SegmentWords WORDS = ResWords(
+    "NITF20RESSubheader",
+    "ERROR: Failed to get all the NITF 2.0 RES subheader field values from the input RES subheader data stream.");
 
 }  // namespace
 
@@ -60,15 +45,6 @@ NITF20RESSubheader::NITF20RESSubheader(const char* aRaw, long aLength, const NIT
     : NITFRESSubheader(aVersionText, Table())
 {
     InitNITFRES(aRaw, aLength, aInfo, std::move(aSource), "NITF20RESSubheader::InitNITF20RESSubheader");
-}
-
-NITF20RESSubheader::NITF20RESSubheader(const NITF20RESSubheader& aOther) = default;
-NITF20RESSubheader::~NITF20RESSubheader() = default;
-
-NITF20RESSubheader& NITF20RESSubheader::operator=(const NITF20RESSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF20RESSubheader::Table() noexcept

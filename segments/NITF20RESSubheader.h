@@ -17,12 +17,15 @@ public:
     NITF20RESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                        std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                        bool aSpecificOnly = false);
-    NITF20RESSubheader(const NITF20RESSubheader& aOther);
-    ~NITF20RESSubheader() override;
+    NITF20RESSubheader(const NITF20RESSubheader& aOther) = default;
     using NITFRESSubheader::operator=;
     using NITFRESSubheader::operator==;
     using NITFRESSubheader::operator!=;
-    NITF20RESSubheader& operator=(const NITF20RESSubheader& aOther);
+    NITF20RESSubheader& operator=(const NITF20RESSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF20RESSubheader& aOther) const { return NITFRESSubheader::operator==(aOther); }
     bool operator!=(const NITF20RESSubheader& aOther) const { return !(*this == aOther); }
 

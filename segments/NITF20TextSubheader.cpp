@@ -4,7 +4,7 @@
 #include "fields/FieldWalk.h"
 #include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 #include <utility>
 
@@ -37,23 +37,7 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 282);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_TEXT_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_TS_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract required field ",
-    .conditionalPrefix = "ERROR: Failed to extract conditional field ",
-    .streamSuffix = " from the text subheader data stream.",
-    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream.",
-    .emptyName = "ERROR: NULL/empty input NITF text subheader field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF text subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF text subheader field name string.",
-    .requested = "ERROR: Requested text subheader field ",
-    .notFound = " is not a NITF text subheader field.",
-    .requestedTre = "ERROR: Requested text subheader TRE field ",
-    .isNotAField = " is not a NITF text subheader field.",
-    .naming = FieldNaming::PositionAndTag,
-    .className = "NITF20TextSubheader"};
+constexpr SegmentWords WORDS = TextWords("NITF20TextSubheader");
 
 }  // namespace
 
@@ -64,15 +48,6 @@ NITF20TextSubheader::NITF20TextSubheader(const char* aRaw, long aLength, const N
 {
     InitNITFTextSegment(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
                         "NITF20TextSubheader::InitNITF20TextSubheader");
-}
-
-NITF20TextSubheader::NITF20TextSubheader(const NITF20TextSubheader& aOther) = default;
-NITF20TextSubheader::~NITF20TextSubheader() = default;
-
-NITF20TextSubheader& NITF20TextSubheader::operator=(const NITF20TextSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF20TextSubheader::Table() noexcept

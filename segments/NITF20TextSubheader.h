@@ -17,12 +17,15 @@ public:
     NITF20TextSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                         std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                         bool aSpecificOnly = false);
-    NITF20TextSubheader(const NITF20TextSubheader& aOther);
-    ~NITF20TextSubheader() override;
+    NITF20TextSubheader(const NITF20TextSubheader& aOther) = default;
     using NITFTextSubheader::operator=;
     using NITFTextSubheader::operator==;
     using NITFTextSubheader::operator!=;
-    NITF20TextSubheader& operator=(const NITF20TextSubheader& aOther);
+    NITF20TextSubheader& operator=(const NITF20TextSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF20TextSubheader& aOther) const { return NITFTextSubheader::operator==(aOther); }
     bool operator!=(const NITF20TextSubheader& aOther) const { return !(*this == aOther); }
 

@@ -4,7 +4,7 @@
 #include "fields/FieldWalk.h"
 #include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 #include <utility>
 
@@ -37,24 +37,9 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 200);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_DATA_EXTENSION_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_DES_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract DES required field ",
-    .conditionalPrefix = "ERROR: Failed to extract DES conditional field ",
-    .streamSuffix = " from the DES subheader data stream.",
-    .summary =
-        "ERROR: Failed to get all the NITF 2.1 DES subheader field values from the input DES subheader data stream.",
-    .emptyName = "ERROR: NULL/empty input NITF DES subheader field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF DES subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF DES subheader field name string.",
-    .requested = "ERROR: Requested NITF DES subheader field ",
-    .notFound = " not found.",
-    .requestedTre = "ERROR: Requested TRE_OVERFLOW TRE field ",
-    .isNotAField = nullptr,
-    .naming = FieldNaming::PositionAndTag,
-    .className = "NITF21DESSubheader"};
+constexpr SegmentWords WORDS = DesWords(
+    "NITF21DESSubheader",
+    "ERROR: Failed to get all the NITF 2.1 DES subheader field values from the input DES subheader data stream.");
 
 }  // namespace
 
@@ -65,15 +50,6 @@ NITF21DESSubheader::NITF21DESSubheader(const char* aRaw, long aLength, const NIT
 {
     InitNITFDES(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
                 "NITF21DESSubheader::InitNITF21DESSubheader");
-}
-
-NITF21DESSubheader::NITF21DESSubheader(const NITF21DESSubheader& aOther) = default;
-NITF21DESSubheader::~NITF21DESSubheader() = default;
-
-NITF21DESSubheader& NITF21DESSubheader::operator=(const NITF21DESSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF21DESSubheader::Table() noexcept

@@ -18,12 +18,15 @@ public:
     NITF21DESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                        std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                        bool aSpecificOnly = false);
-    NITF21DESSubheader(const NITF21DESSubheader& aOther);
-    ~NITF21DESSubheader() override;
+    NITF21DESSubheader(const NITF21DESSubheader& aOther) = default;
     using NITFDESSubheader::operator=;
     using NITFDESSubheader::operator==;
     using NITFDESSubheader::operator!=;
-    NITF21DESSubheader& operator=(const NITF21DESSubheader& aOther);
+    NITF21DESSubheader& operator=(const NITF21DESSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF21DESSubheader& aOther) const { return NITFDESSubheader::operator==(aOther); }
     bool operator!=(const NITF21DESSubheader& aOther) const { return !(*this == aOther); }
 

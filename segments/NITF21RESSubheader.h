@@ -17,12 +17,15 @@ public:
     NITF21RESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                        std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                        bool aSpecificOnly = false);
-    NITF21RESSubheader(const NITF21RESSubheader& aOther);
-    ~NITF21RESSubheader() override;
+    NITF21RESSubheader(const NITF21RESSubheader& aOther) = default;
     using NITFRESSubheader::operator=;
     using NITFRESSubheader::operator==;
     using NITFRESSubheader::operator!=;
-    NITF21RESSubheader& operator=(const NITF21RESSubheader& aOther);
+    NITF21RESSubheader& operator=(const NITF21RESSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF21RESSubheader& aOther) const { return NITFRESSubheader::operator==(aOther); }
     bool operator!=(const NITF21RESSubheader& aOther) const { return !(*this == aOther); }
 

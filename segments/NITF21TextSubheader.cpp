@@ -4,7 +4,7 @@
 #include "fields/FieldWalk.h"
 #include "foundation/Ascii.h"
 #include "segments/SecurityRows.h"
-#include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 #include <utility>
 
@@ -38,23 +38,7 @@ constexpr auto TABLE = MakeTable(ROWS);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS) == 282);
 
-constexpr SegmentWords WORDS{
-    .owner = NITFCnst::XML_ELEMENT_TEXT_SEGMENT,
-    .element = NITFCnst::XML_ELEMENT_TS_FIELD,
-    .indent = "      ",
-    .requiredPrefix = "ERROR: Failed to extract required field ",
-    .conditionalPrefix = "ERROR: Failed to extract conditional field ",
-    .streamSuffix = " from the text subheader data stream.",
-    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream.",
-    .emptyName = "ERROR: NULL/empty input NITF text subheader field name string.",
-    .emptyTextName = "ERROR: NULL/empty input NITF text subheader field name string.",
-    .emptyTreName = "ERROR: NULL/empty input NITF text subheader field name string.",
-    .requested = "ERROR: Requested text subheader field ",
-    .notFound = " is not a NITF text subheader field.",
-    .requestedTre = "ERROR: Requested text subheader TRE field ",
-    .isNotAField = " is not a NITF text subheader field.",
-    .naming = FieldNaming::PositionAndTag,
-    .className = "NITF21TextSubheader"};
+constexpr SegmentWords WORDS = TextWords("NITF21TextSubheader");
 
 }  // namespace
 
@@ -65,15 +49,6 @@ NITF21TextSubheader::NITF21TextSubheader(const char* aRaw, long aLength, const N
 {
     InitNITFTextSegment(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
                         "NITF21TextSubheader::InitNITF21TextSubheader");
-}
-
-NITF21TextSubheader::NITF21TextSubheader(const NITF21TextSubheader& aOther) = default;
-NITF21TextSubheader::~NITF21TextSubheader() = default;
-
-NITF21TextSubheader& NITF21TextSubheader::operator=(const NITF21TextSubheader& aOther)
-{
-    Assign(aOther);
-    return *this;
 }
 
 const Detail::FieldTable& NITF21TextSubheader::Table() noexcept

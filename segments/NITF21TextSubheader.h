@@ -17,12 +17,15 @@ public:
     NITF21TextSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
                         std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
                         bool aSpecificOnly = false);
-    NITF21TextSubheader(const NITF21TextSubheader& aOther);
-    ~NITF21TextSubheader() override;
+    NITF21TextSubheader(const NITF21TextSubheader& aOther) = default;
     using NITFTextSubheader::operator=;
     using NITFTextSubheader::operator==;
     using NITFTextSubheader::operator!=;
-    NITF21TextSubheader& operator=(const NITF21TextSubheader& aOther);
+    NITF21TextSubheader& operator=(const NITF21TextSubheader& aOther)
+    {
+        Assign(aOther);
+        return *this;
+    }
     bool operator==(const NITF21TextSubheader& aOther) const { return NITFTextSubheader::operator==(aOther); }
     bool operator!=(const NITF21TextSubheader& aOther) const { return !(*this == aOther); }
 

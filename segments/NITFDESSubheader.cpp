@@ -10,6 +10,7 @@
 #include "segments/Findings.h"
 #include "segments/SegmentContents.h"
 #include "segments/SegmentData.h"
+#include "segments/SegmentWords.h"
 #include "segments/des/DesDESDATA.h"
 #include "segments/des/DesDESSHF.h"
 #include "segments/des/SupportedDESDATAs.h"

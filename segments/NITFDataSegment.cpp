@@ -7,6 +7,7 @@
 #include "segments/RawNITFMetadataStdDataSegment.h"
 #include "segments/SegmentContents.h"
 #include "segments/SegmentData.h"
+#include "segments/SegmentWords.h"
 
 #include <string_view>
 #include <utility>

@@ -11,6 +11,7 @@
 #include "foundation/CSMUtilGeneric.h"
 #include "foundation/CSMUtilString.h"
 #include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 #include "tre/TREFactory.h"
 
 #include <limits>

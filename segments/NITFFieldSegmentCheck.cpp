@@ -6,6 +6,7 @@
 #include "segments/NITFFieldSegment.h"
 #include "segments/SecurityCheck.h"
 #include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -7,6 +7,7 @@
 #include "segments/NITFFieldSegment.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
 #include "segments/SegmentContents.h"
+#include "segments/SegmentWords.h"
 
 #include <memory>
 

@@ -8,6 +8,7 @@
 #include "segments/Findings.h"
 #include "segments/SegmentContents.h"
 #include "segments/SegmentData.h"
+#include "segments/SegmentWords.h"
 #include "segments/TextCheck.h"
 
 #include <utility>
