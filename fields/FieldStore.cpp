@@ -73,20 +73,20 @@ void FieldStore::Finish()
     // Entries of one row were added in the order of their turns, so listing them row by row sorts them.
     const std::size_t rows = m_table.Size();
     m_index.assign(rows + 1 + m_entries.size(), 0);
+    const std::span<std::uint32_t> starts(m_index.data(), rows + 1);
     for (const FieldEntry& entry : m_entries) {
-        ++m_index[entry.row + 1U];
+        ++starts[entry.row + 1U];
     }
     for (std::size_t row = 1; row <= rows; ++row) {
-        m_index[row] += m_index[row - 1];
+        starts[row] += starts[row - 1];
     }
-    std::vector<std::uint32_t>& index = m_index;
-    for (std::size_t i = 0; i != m_entries.size(); ++i) {
-        index[rows + 1 + index[m_entries[i].row]++] = static_cast<std::uint32_t>(i);
+    std::uint32_t* const places = m_index.data() + rows + 1;
+    std::uint32_t place = 0;
+    for (const FieldEntry& entry : m_entries) {
+        places[starts[entry.row]++] = place++;
     }
-    for (std::size_t row = rows; row != 0; --row) {
-        index[row] = index[row - 1];
-    }
-    index[0] = 0;
+    std::copy_backward(starts.begin(), starts.end() - 1, starts.end());  // each start has moved on to the next one
+    starts[0] = 0;
     m_arena.resize(m_used);
 }
 

@@ -72,6 +72,9 @@ std::uint16_t FieldTable::FindAny(std::string_view aTag) const noexcept
 std::uint16_t FieldTable::Resolve(std::string_view aName, Turns& aTurns) const noexcept
 {
     aTurns = {};
+    if (m_deepest == 0 || aName.empty() || !IsDigit(aName.back())) {
+        return Find(aName, 0);
+    }
     return m_naming == Naming::Underscore ? MatchUnderscores(aName, aTurns) : MatchDigits(aName, 0, aTurns);
 }
 

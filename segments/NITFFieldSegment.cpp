@@ -208,7 +208,8 @@ std::string NITFFieldSegment::PlaceOf(std::string_view aName) const
 {
     const Detail::FieldStore& fields = m_contents->fields;
     const FieldEntry* const entry = fields.Find(aName);
-    std::string text = "[" + std::string(Words().owner) + " field " + std::string(aName);
+    std::string text = std::string("[") + Words().owner + " field ";
+    text += aName;
     if (entry != nullptr) {
         text += " at byte offset " + std::to_string(m_fileOffset + fields.Position(*entry)) + ": value " +
                 Detail::Shown(fields.Value(*entry));

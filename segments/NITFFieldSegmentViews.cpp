@@ -82,8 +82,9 @@ const NITFStdDataSegment::FieldTexts* NITFFieldSegment::GetFieldEditabilityMap()
         const FieldTable& table = GetFieldTable();
         for (std::uint16_t row = 0; row != table.Size(); ++row) {
             if (table.Row(row).IsField()) {
-                aMap[table.Row(row).tag] =
-                    table.IsEditable(row) ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE;
+                const bool editable = table.IsEditable(row);
+                aMap.emplace(table.Row(row).tag,
+                             editable ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE);
             }
         }
     });

@@ -83,8 +83,11 @@ void PrintImage(std::ostream& aOut, const NITFImageSubheader& aImage, std::uint6
          << Plain(aImage.FieldText("NCOLS")) << " columns, " << aImage.GetNumOfImageBands() << " band(s), "
          << Plain(aImage.FieldText("NBPP")) << "-bit " << Shown(aImage.FieldText("PVTYPE")) << ", "
          << Shown(aImage.FieldText("IREP")) << ", " << Shown(aImage.FieldText("ICAT")) << ", compression "
-         << Shown(aImage.FieldText("IC")) << (comrat.empty() ? "" : " " + Shown(comrat)) << ", " << aBytes
-         << " bytes\n";
+         << Shown(aImage.FieldText("IC"));
+    if (!comrat.empty()) {
+        aOut << ' ' << Shown(comrat);
+    }
+    aOut << ", " << aBytes << " bytes\n";
     aOut << "    identifier " << Shown(aImage.FieldText(is21 ? "IID1" : "IID")) << ", date "
          << Shown(aImage.FieldText("IDATIM")) << ", classification " << Shown(aImage.FieldText("ISCLAS")) << '\n';
     PrintFootprint(aOut, aImage);

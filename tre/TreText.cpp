@@ -131,8 +131,9 @@ const TRE::FieldTexts* TRE::GetFieldEditabilityMap() const
     return OnFirstUse(views, views.editability, [&](FieldTexts& aMap) {
         for (std::size_t i = 0; i != GetNumOfFields(); ++i) {
             const FieldEntry& entry = m_fields->Entries()[i];
-            aMap[m_fields->Name(entry)] = m_fields->Table().IsEditable(entry.row) ? NITFCnst::NITF_FIELD_VALUE_TRUE
-                                                                                  : NITFCnst::NITF_FIELD_VALUE_FALSE;
+            const bool editable = m_fields->Table().IsEditable(entry.row);
+            aMap.emplace(m_fields->Name(entry),
+                         editable ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE);
         }
     });
 }
