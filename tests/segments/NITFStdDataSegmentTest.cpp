@@ -35,6 +35,7 @@ public:
         return *this;
     }
     using NITFStdDataSegment::operator=;
+    using NITFStdDataSegment::operator==;
     bool operator==(const Segment& aOther) const { return NITFStdDataSegment::operator==(aOther); }
 
     const FieldTexts* GetFieldEditabilityMap() const override { return hasMap ? &editability : nullptr; }
