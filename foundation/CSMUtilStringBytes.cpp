@@ -274,7 +274,7 @@ void CSMUtilString::DeleteCStringVectorContainerArray(std::vector<char*>**& aArr
     }
     for (std::size_t i = 0; i != aCount; ++i) {
         if (aArray[i] != nullptr) {
-            std::for_each(aArray[i]->begin(), aArray[i]->end(), [](char* aText) { delete[] aText; });
+            std::for_each(aArray[i]->begin(), aArray[i]->end(), [](const char* aText) { delete[] aText; });
             delete aArray[i];
         }
     }

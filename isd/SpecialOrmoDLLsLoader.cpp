@@ -26,7 +26,7 @@ std::string FileName(const char* aPropertyKey, const char* aDefaultName)
 {
     const char* value = nullptr;
     if (CSMSysProperties::GetProperty(aPropertyKey, value)) {
-        const std::string name = Util::CSMUtilString::Trim(value);
+        std::string name = Util::CSMUtilString::Trim(value);
         if (!name.empty()) {
             return name;
         }

@@ -8,7 +8,9 @@
 
 #include <CLI/CLI.hpp>
 
-int main(int aCount, char** aArguments)
+namespace {
+
+int Run(int aCount, char** aArguments)
 {
     CLI::App app("Reads NITF 2.0, NITF 2.1 and NSIF 1.0 files and tells all that they say.", "ormo-nitf");
     app.set_version_flag("--version", ORMO_VERSION);
@@ -59,10 +61,19 @@ int main(int aCount, char** aArguments)
         app.parse(aCount, aArguments);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? OrmoNitf::EXIT_DONE : OrmoNitf::EXIT_WRONG_USE;
+    }
+    std::cout.flush();
+    return std::cout.good() ? exitCode : static_cast<int>(OrmoNitf::EXIT_WRONG_USE);
+}
+
+}  // namespace
+
+int main(int aCount, char** aArguments)
+{
+    try {
+        return Run(aCount, aArguments);
     } catch (const std::exception& error) {
         std::cerr << "ormo-nitf: " << error.what() << '\n';
         return OrmoNitf::EXIT_WRONG_USE;
     }
-    std::cout.flush();
-    return std::cout.good() ? exitCode : static_cast<int>(OrmoNitf::EXIT_WRONG_USE);
 }

@@ -253,7 +253,7 @@ void TRE::PopulateNITFTreFieldsMap(const char* aTag, const std::string* aData, c
             ++extracted;
         }
     }
-    const auto expected = static_cast<std::size_t>(last - aFirst + 1);
+    const std::size_t expected = static_cast<std::size_t>(last) - static_cast<std::size_t>(aFirst) + 1;
     if (extracted < expected) {
         aWidthMap.clear();
         aValueMap.clear();
