@@ -1,4 +1,5 @@
 #include "tre/TreLayout.h"
+#include "tre/tags/AccuracyRegion.h"
 #include "tre/tags/TreTags.h"
 
 namespace ORMO::SensorModel::CSM {
@@ -9,41 +10,16 @@ using namespace Detail;
 using enum Detail::Need;
 using enum Detail::Form;
 
-constexpr auto UNITS = "UM|MM|CM|DM|M|KM|IN|FT|YD|FM|FF|MI|NM|ML|MSC|SEC|MA|DEG|blank=accuracy unknown";
-
 // clang-format off
-constexpr FieldRow ROWS[] = {
+constexpr FieldRow HEAD[] = {
     //    tag      width  need           form     values                      unit          label
     Field("NUM_ACVT",  2, Required,      Integer, "01..99",                   "",           "Number of Vertical Accuracy Regions",
           "How many regions with their own vertical accuracy follow.").Alias("NUMACVT"),
     Repeat("NUM_ACVT"),
-        Field("UNIAAV",    3, RequiredBlank, Text,    UNITS,                      "",           "Unit of Measure for AAV",
-              "Unit in which the absolute vertical accuracy is given; blank when that accuracy is not known, and then "
-              "the value is left out."),
-        WhenFilled("UNIAAV"),
-            Field("AAV",       5, Conditional,   Integer, "00000..99999",             "UNIAAV",     "Absolute vertical accuracy",
-                  "Size of the absolute vertical accuracy of this region, in the unit stated just before."),
-        End(),
-        Field("UNIAPV",    3, RequiredBlank, Text,    UNITS,                      "",           "Unit of Measure for APV",
-              "Unit in which the point-to-point vertical accuracy is given; blank when that accuracy is not known, and "
-              "then the value is left out."),
-        WhenFilled("UNIAPV"),
-            Field("APV",       5, Conditional,   Integer, "00000..99999",             "UNIAPV",     "Point-to-point vertical accuracy",
-                  "Size of the point-to-point vertical accuracy of this region, in the unit stated just before."),
-        End(),
-        Field("NUM_PTS",   3, Required,      Integer, "000=whole image|004..999", "",           "Number of Points in Bounding Polygon",
-              "How many corner points outline the region; zero means that the values hold for the whole "
-              "image.").Alias("NUMPTS"),
-        Repeat("NUM_PTS"),
-            Field("LON",      15, Conditional,   Real,    "",                         "GEOPSB UNI", "Longitude or Easting",
-                  "Longitude, or easting in a map grid, of one corner point of the region."),
-            Field("LAT",      15, Conditional,   Real,    "",                         "GEOPSB UNI", "Latitude or Northing",
-                  "Latitude, or northing in a map grid, of one corner point of the region."),
-        End(),
-    End(),
 };
 // clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
+constexpr auto ROWS = JoinRows(HEAD, ACCURACY_AAV, ACCURACY_APV, ACCURACY_POLYGON, ACCURACY_END);
+constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
 
 }  // namespace

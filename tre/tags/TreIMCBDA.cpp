@@ -1,39 +1,15 @@
-#include "tre/TreLayout.h"
+#include "tre/tags/NotPublicLayout.h"
 #include "tre/tags/TreTags.h"
 
 namespace ORMO::SensorModel::CSM {
 
-namespace {
-
-using namespace Detail;
-using enum Detail::Need;
-using enum Detail::Form;
-
-// clang-format off
-constexpr FieldRow ROWS[] = {
-    Rest("DATA", Required, Bytes, "", "", "Data",
-          "The data of this extension as they stand in the file; no public standard says how they are laid out."),
-};
-// clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
-static_assert(TABLE.wellFormed);
-
-}  // namespace
-
 const Detail::TreLayout& TreIMCBDA::Layout()
 {
-    static constexpr Detail::TreLayout LAYOUT{
-        .tag = "IMCBDA",
-        .name = "Image Compressed Blocks Directory",
-        .length = 0,
-        .lengthRule = "not public",
-        .placement = "segment level",
-        .purpose =
-            "Directory of the compressed blocks of a DPPDB stereo image. Its layout is not public, so its data "
-            "are kept whole as one field.",
-        .sources = "STDI-0002 Volume 1 Appendix V (list of DPPDB tags)",
-        .certainty = Detail::LayoutCertainty::NotPublic,
-        .table = TABLE.View()};
+    static constexpr Detail::TreLayout LAYOUT = Detail::NotPublicLayout(
+        "IMCBDA", "Image Compressed Blocks Directory", "segment level",
+        "Directory of the compressed blocks of a DPPDB stereo image. Its layout is not public, so its data "
+        "are kept whole as one field.",
+        "STDI-0002 Volume 1 Appendix V (list of DPPDB tags)");
     return LAYOUT;
 }
 
