@@ -30,7 +30,7 @@ constexpr FieldRow ROWS[] = {
     Field("OSTAID",  10, Required,        Text,        "", "", "Originating Station ID"),
     Field("FDT",     14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "File Date and Time {CCYYMMDDhhmmss}"),
     Field("FTITLE",  80, RequiredBlank,   Ecs,         "", "", "File Title"),
-    ORMO_SECURITY_ROWS_21("FSCLAS", "FS", "File", ClassificationReason),
+    ORMO_SECURITY_ROWS_21("FSCLAS", nullptr, "FS", "File", ClassificationReason),
     Field("FSCOP",    5, Required,        DigitText,   "00000..99999", "", "File Copy Number [00000-99999]"),
     Field("FSCPYS",   5, Required,        DigitText,   "00000..99999", "", "File Number of Copies [00000-99999]"),
     Field("ENCRYP",   1, Required,        DigitText,   "0", "", "Encryption [0]").Locked(),

@@ -32,7 +32,7 @@ constexpr FieldRow ROWS[] = {
     Field("IDATIM",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Image Date and Time {CCYYMMDDhhmmss}"),
     Field("TGTID",    17, RequiredBlank,   Text,        "", "", "Target Identifier {BBBBBBBBBBOOOOOCC}"),
     Field("IID2",     80, RequiredBlank,   Ecs,         "", "", "Image Identifier 2"),
-    ORMO_SECURITY_ROWS_21("ISCLAS", "IS", "Image", Ecs),
+    ORMO_SECURITY_ROWS_21("ISCLAS", nullptr, "IS", "Image", Ecs),
     Field("ENCRYP",    1, Required,        Digits,      "0", "", "Encryption [0]").Locked(),
     Field("ISORCE",   42, RequiredBlank,   Ecs,         "", "", "Image Source"),
     Field("NROWS",     8, Required,        Digits,      "00000001..99999999", "", "Number of Significant Rows in Image [00000001-99999999]").Locked(),

@@ -22,7 +22,7 @@ constexpr FieldRow ROWS[] = {
     Field("DE",       2, Required,        Text,        "DE", "", "File Part Type [DE]"),
     Field("DESID",   25, Required,        Text,        "", "", "Unique DES Type Identifier").Locked(),
     Field("DESVER",   2, Required,        Digits,      "01..99", "", "Version of the Data Definition [01-99]").Locked(),
-    ORMO_SECURITY_ROWS_21("DECLAS", "DES", "DES", Ecs),
+    ORMO_SECURITY_ROWS_21("DECLAS", "DESCLAS", "DES", "DES", Ecs),
     When("DESID", "TRE_OVERFLOW"),
         Field("DESOFLW",  6, Conditional,     Text,        "XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID", "", "DES Overflowed Header Type [XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID]").Locked(),
         Field("DESITEM",  3, Conditional,     Digits,      "000..999", "", "DES Data Item Overflowed [000-999]").Locked(),

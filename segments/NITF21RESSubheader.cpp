@@ -22,7 +22,7 @@ constexpr FieldRow ROWS[] = {
     Field("RE",       2, Required,        Text,        "RE", "", "File Part Type [RE]"),
     Field("RESID",   25, Required,        Text,        "", "", "Unique RES Type Identifier").Locked(),
     Field("RESVER",   2, Required,        Digits,      "01..99", "", "Version of the Data Definition [01-99]").Locked(),
-    ORMO_SECURITY_ROWS_21("RECLAS", "RE", "RES", Ecs),
+    ORMO_SECURITY_ROWS_21("RECLAS", nullptr, "RE", "RES", Ecs),
     Field("RESSHL",   4, Required,        Digits,      "0000..9999", "", "RES User-defined Subheader Length [0000-9799]"),
     WhenPositive("RESSHL"),
         Sized("RESSHF", "RESSHL", 0, Conditional,     Utf8,        "", "", "RES User-defined Subheader Fields"),

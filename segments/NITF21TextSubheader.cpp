@@ -24,7 +24,7 @@ constexpr FieldRow ROWS[] = {
     Field("TXTALVL",  3, Required,        Digits,      "000..998", "", "Text Attachment Level [000-998]").Locked(),
     Field("TXTDT",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Text Date and Time {CCYYMMDDhhmmss}"),
     Field("TXTITL",  80, RequiredBlank,   Ecs,         "", "", "Text Title"),
-    ORMO_SECURITY_ROWS_21("TSCLAS", "TS", "Text", Ecs),
+    ORMO_SECURITY_ROWS_21("TSCLAS", nullptr, "TS", "Text", Ecs),
     Field("ENCRYP",   1, Required,        Digits,      "0", "", "Encryption [0]").Locked(),
     Field("TXTFMT",   3, Required,        Text,        "MTF|STA|UT1|U8S", "", "Text Format [MTF|STA|UT1|U8S]").Locked(),
     Field("TXSHDL",   5, Required,        Digits,      "00000|00003..09717", "", "Text Extended Subheader Data Length [00000|00003-09717]"),

@@ -4,9 +4,10 @@
 // pastes the prefix into the tags, which only the preprocessor can do at compile time.
 
 /// NITF 2.1, 167 bytes (MIL-STD-2500C, table A-1 and its kin). The first tag is given whole, because the DES subheader
-/// spells it DECLAS; the form of the classification reason differs in the file header.
-#define ORMO_SECURITY_ROWS_21(aClas, aPrefix, aTitle, aReasonForm)                                                  \
-    Field(aClas, 1, Required, Ecs, "T|S|C|R|U", "", aTitle " Security Classification [T|S|C|R|U]"),                 \
+/// spells it DECLAS, with the name that others give it or null; the form of the classification reason differs in the
+/// file header.
+#define ORMO_SECURITY_ROWS_21(aClas, aAlias, aPrefix, aTitle, aReasonForm)                                          \
+    Field(aClas, 1, Required, Ecs, "T|S|C|R|U", "", aTitle " Security Classification [T|S|C|R|U]").Alias(aAlias),   \
         Field(aPrefix "CLSY", 2, RequiredBlank, Ecs, "", "",                                                        \
               aTitle " Security Classification System [FIPS 10-4 country code|XN]"),                                \
         Field(aPrefix "CODE", 11, RequiredBlank, Ecs, "", "", aTitle " Codewords"),                                 \

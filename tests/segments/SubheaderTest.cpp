@@ -260,6 +260,16 @@ TYPED_TEST(SubheaderTest, ValidationPassesABuiltSegmentAndNamesAWrongField)
               bad->GetErrorMessage());
 }
 
+TEST(DesSubheaderTest, ClassificationIsFoundUnderBothSpellings)
+{
+    NitfBuilder builder;
+    builder.AddDes("SOME TYPE", "data").Set("DECLAS", "C");
+    const BuiltSegment<NITF21DESSubheader> des(builder, NITFCnst::NITF_VERSION_NUMBER_21, 0);
+    EXPECT_EQ("C", des->FieldText("DECLAS"));
+    EXPECT_EQ("C", des->FieldText("DESCLAS"));
+    EXPECT_EQ(nullptr, des->FieldText("DSCLAS").data());
+}
+
 using TextTest = SubheaderTest<Case<NITF21TextSubheader, Format::Nitf21, 'T'>>;
 
 TEST_F(TextTest, ExtensionAreaYieldsTresAndTheAttachmentLevelIsRead)
