@@ -1,44 +1,20 @@
 // The lists and maps that a header hands out, made when somebody asks for them.
 
+#include "foundation/OnFirstUse.h"
 #include "segments/NITFFieldSegment.h"
 #include "segments/SegmentContents.h"
-
-#include <memory>
-#include <mutex>
-#include <optional>
-#include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
 using Detail::FieldEntry;
 using Detail::FieldRow;
 using Detail::FieldTable;
+using Detail::OnFirstUse;
 using Detail::SegmentViews;
-
-namespace {
-
-template<typename View, typename Fill>
-const View* OnFirstUse(SegmentViews& aViews, std::optional<View>& aView, Fill aFill)
-{
-    const std::lock_guard lock(aViews.guard);
-    if (!aView.has_value()) {
-        View made;
-        aFill(made);
-        aView.emplace(std::move(made));
-    }
-    return &*aView;
-}
-
-}  // namespace
 
 SegmentViews& NITFFieldSegment::Views() const
 {
-    static std::mutex making;
-    const std::lock_guard lock(making);
-    if (m_views == nullptr) {
-        m_views = std::make_unique<SegmentViews>();
-    }
-    return *m_views;
+    return Detail::ViewsOf(m_views);
 }
 
 const std::vector<const char*>* NITFFieldSegment::GetAllFieldTags() const

@@ -6,6 +6,7 @@
 #include "fields/Xml.h"
 #include "foundation/Ascii.h"
 #include "foundation/CSMUtilString.h"
+#include "foundation/OnFirstUse.h"
 #include "nitf/NITFCnst.h"
 #include "tre/RawNITFMetadataTRE.h"
 #include "tre/SupportedTREs.h"
@@ -20,6 +21,7 @@ namespace ORMO::SensorModel::CSM {
 
 using Detail::FieldEntry;
 using Detail::FieldRow;
+using Detail::OnFirstUse;
 using Detail::TreViews;
 
 namespace {
@@ -27,29 +29,11 @@ namespace {
 constexpr const char* ELEMENT_INDENT = "      ";
 constexpr const char* CHILD_INDENT = "        ";
 
-/// Fills a view on first use, under the lock of its TRE.
-template<typename View, typename Fill>
-const View* OnFirstUse(TreViews& aViews, std::optional<View>& aView, Fill aFill)
-{
-    const std::lock_guard lock(aViews.guard);
-    if (!aView.has_value()) {
-        View made;
-        aFill(made);
-        aView.emplace(std::move(made));
-    }
-    return &*aView;
-}
-
 }  // namespace
 
 TreViews& TRE::Views() const
 {
-    static std::mutex making;
-    const std::lock_guard lock(making);
-    if (m_views == nullptr) {
-        m_views = std::make_unique<TreViews>();
-    }
-    return *m_views;
+    return Detail::ViewsOf(m_views);
 }
 
 const std::vector<const char*>* TRE::GetAllTreFields() const
