@@ -40,7 +40,7 @@ constexpr FieldRow ROWS[] = {
     End(),
     Field("NICOM",     1, Required,        Digits,      "0..9", "", "Number of Image Comments [0-9]"),
     Repeat("NICOM"),
-        Field("ICOM",     80, Conditional,     Text,        "", "", "Image Comment n"),
+        Field("ICOM",     80, ConditionalBlank, Text,       "", "", "Image Comment n"),
     End(),
     Field("IC",        2, Required,        Text,        "NC|NM|C0|C1|C2|C3|C4|M0|M1|M2|M3|M4", "", "Image Compression [NC|NM|C0|C1|C2|C3|C4|M0|M1|M2|M3|M4]").Locked(),
     WhenNot("IC", "NC|NM"),

@@ -48,7 +48,7 @@ constexpr FieldRow ROWS[] = {
     End(),
     Field("NICOM",     1, Required,        Digits,      "0..9", "", "Number of Image Comments [0-9]"),
     Repeat("NICOM"),
-        Field("ICOM",     80, Conditional,     Ecs,         "", "", "Image Comment n"),
+        Field("ICOM",     80, ConditionalBlank, Ecs,        "", "", "Image Comment n"),
     End(),
     Field("IC",        2, Required,        Text,        "NC|NM|C1|C3|C4|C5|C6|C7|C8|I1|M1|M3|M4|M5|M6|M7|M8", "", "Image Compression [NC|NM|C1|C3|C4|C5|C6|C7|C8|I1|M1|M3|M4|M5|M6|M7|M8]").Locked(),
     When("IC", "C1|C3|C4|C5|C8|M1|M3|M4|M5|M8|I1"),

@@ -295,7 +295,8 @@ void NITFDESSubheader::Validate(Detail::Findings& aFindings) const
         ValidateTypedFields(aFindings);
         return;
     }
-    if (NumberOf(NITFCnst::NITF_DES_FIELD_DESVER) != 1) {
+    // NITF 2.0 leaves the version of its overflow tags open; a conformance sample has 99.
+    if (!IsNITF20() && NumberOf(NITFCnst::NITF_DES_FIELD_DESVER) != 1) {
         aFindings.AddError(CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, Words().owner, NITFCnst::NITF_DES_FIELD_DESVER,
                            PlaceOf(NITFCnst::NITF_DES_FIELD_DESVER));
     }

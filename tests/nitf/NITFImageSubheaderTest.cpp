@@ -308,6 +308,16 @@ TEST_P(EachVersionTest, HugeImagesAndOddValuesAreReadAsTheyStand)
     EXPECT_THAT(image->SerializeDataSegment(""), HasSubstr("base64Encoded=\"T\""));
 }
 
+TEST_P(EachVersionTest, CommentsMayBeBlank)
+{
+    m_fields.Comment("").Comment("the second one");
+    const auto image = Read(GetParam(), m_fields.Bytes());
+    unsigned long errors = 9;
+    unsigned long warnings = 9;
+    EXPECT_TRUE(image->RigorousValidation(errors, warnings)) << image->GetErrorMessage();
+    EXPECT_EQ(0U, errors);
+}
+
 TEST(NITFImageSubheaderTest, OnlyNumbersBelow999AndKnownVersionsAreOpened)
 {
     NitfBuilder file;

@@ -212,6 +212,12 @@ TEST(OverflowDesTest, ValidationAsksForVersionOneAndNoUserFields)
     EXPECT_EQ(2U, errors) << des->GetErrorMessage();
     EXPECT_THAT(des->GetErrorMessage(), HasSubstr("invalid for DataExtensionSegment::DESVER "));
     EXPECT_THAT(des->GetErrorMessage(), HasSubstr("invalid for DataExtensionSegment::DESSHL "));
+
+    NitfBuilder old(Format::Nitf20);
+    old.AddOverflow("UDID", 1, Tre("ABCDEF", "data")).Set("DESVER", "99");
+    const BuiltSegment<NITF20DESSubheader> open(old, NITFCnst::NITF_VERSION_NUMBER_20);
+    ASSERT_TRUE(open->IsTREOverflow());
+    EXPECT_TRUE(open->RigorousValidation(errors, warnings)) << open->GetErrorMessage();
 }
 
 TEST(OverflowDesTest, CopiesCarryTheirOwnTres)
