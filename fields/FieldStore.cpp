@@ -7,6 +7,8 @@ namespace ORMO::SensorModel::CSM::Detail {
 namespace {
 
 constexpr std::uint32_t MOST_BYTES = UINT32_MAX;
+// More than that is only written when values come: a fault may stand at the front of large data.
+constexpr std::size_t BYTES_AT_ONCE = std::size_t{1} << 16U;
 
 }  // namespace
 
@@ -14,7 +16,9 @@ void FieldStore::Begin(std::size_t aBytes)
 {
     Clear();
     const std::size_t fields = std::min(m_table.UsualFields(), m_table.FieldCount() + aBytes);
-    m_arena.resize(std::min<std::size_t>(aBytes, MOST_BYTES) + fields);
+    const std::size_t bytes = std::min<std::size_t>(aBytes, MOST_BYTES) + fields;
+    m_arena.reserve(bytes);
+    m_arena.resize(std::min(bytes, BYTES_AT_ONCE));
     m_entries.reserve(fields);
     m_index.reserve(m_table.Size() + 1 + fields);
     m_index.assign(m_table.Size(), 0);
@@ -27,8 +31,8 @@ void FieldStore::Reserve(std::size_t aMoreFields, std::size_t aBytesLeft)
         m_entries.reserve(std::max(entries, m_entries.capacity() + m_entries.capacity() / 2));
     }
     const std::size_t bytes = m_used + aBytesLeft + aMoreFields;
-    if (bytes > m_arena.size()) {
-        m_arena.resize(bytes);
+    if (bytes > m_arena.capacity()) {
+        m_arena.reserve(bytes);
     }
 }
 
@@ -42,7 +46,7 @@ std::uint32_t FieldStore::Append(std::string_view aValue)
     const std::size_t start = m_used;
     const std::size_t end = start + aValue.size() + 1;
     if (end > m_arena.size()) {
-        m_arena.resize(std::max(end, m_arena.size() + m_arena.size() / 2));
+        m_arena.resize(std::max(end, std::min(m_arena.capacity(), 2 * m_arena.size())));
     }
     // What was not written yet is NUL, so the end of the value stands there already.
     std::copy(aValue.begin(), aValue.end(), m_arena.data() + start);

@@ -81,7 +81,7 @@ private:
     void Clear() noexcept;
 
     FieldTable m_table;
-    std::string m_arena;  // NUL behind the bytes used, which may be fewer only while the walk goes on
+    std::string m_arena;  // NUL behind the bytes used
     std::size_t m_used = 0;
     std::vector<FieldEntry> m_entries;
     // During the walk: the latest entry of each row, plus one. Afterwards: for each row the start of its entries in

@@ -16,7 +16,6 @@ namespace {
 
 // One read covers the header of nearly every file.
 constexpr std::uint64_t FIRST_READ = 4096;
-constexpr std::uint64_t MOST_BYTES_REFUSED = 39;
 constexpr std::string_view NO_HEADER = "ERROR: Failed to retrieve the NITF file header from the input file.";
 
 // The data of a STREAMING_FILE_HEADER DES: length, mark, header, mark, length; they close the file.

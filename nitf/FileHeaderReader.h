@@ -3,9 +3,13 @@
 #include "fields/ByteSource.h"
 #include "nitf/NITFCnst.h"
 
+#include <cstdint>
 #include <string>
 
 namespace ORMO::SensorModel::CSM::Detail {
+
+/// A file header of no more bytes is refused.
+constexpr std::uint64_t MOST_BYTES_REFUSED = 39;
 
 /// The bytes of a file header as they are to be read.
 struct RawFileHeader

@@ -8,6 +8,7 @@
 #include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
+#include "nitf/FileHeaderReader.h"
 #include "nitf/SegmentKinds.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
 #include "segments/SegmentContents.h"
@@ -25,7 +26,6 @@ using Detail::Quoted;
 
 namespace {
 
-constexpr std::size_t MOST_BYTES_REFUSED = 39;
 constexpr std::size_t MOST_HEADER_BYTES = 999999;
 constexpr std::uint64_t LEAST_FILE_LENGTH = 39;
 constexpr std::uint64_t MOST_FILE_LENGTH = 999999999999;
@@ -120,7 +120,7 @@ void NITFFileHeader::Init(std::string aRaw, bool aStreaming, const Detail::KindF
     const std::string source = std::string(ClassName()) + "::" + ClassName();
     std::string errors;
     const std::size_t length = aRaw.size();
-    if (length <= MOST_BYTES_REFUSED || length > MOST_HEADER_BYTES) {
+    if (length <= Detail::MOST_BYTES_REFUSED || length > MOST_HEADER_BYTES) {
         errors = "ERROR: Failed to retrieve the NITF file header from the input file.";
         throw ImageSupportDataConstructionException(errors.c_str(), source.c_str());
     }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 
 namespace ORMO::SensorModel::CSM::Detail {
 namespace {
@@ -234,8 +235,15 @@ TEST(FieldWalkFaultTest, DataBeyondTheOffsetsOfAStoreAreRefusedUnread)
     }
     static constexpr FieldRow ROWS[] = {F("HEAD", 8), Rest("DATA", Need::Required, Form::Bytes, "", "", "")};
     static constexpr auto TABLE = MakeTable(ROWS);
+    const auto mostHeld = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss;  // kilobytes
+    };
+    const long before = mostHeld();
     FieldStore store(TABLE.View());
     const WalkResult result = FieldWalk::Read({static_cast<const char*>(pages), FIVE_GIB}, store);
+    EXPECT_LT(mostHeld() - before, 100000) << "memory for the refused data was written";
     EXPECT_EQ(Fault::Short, result.fault);
     EXPECT_EQ(1U, result.row);
     EXPECT_EQ(8U, result.consumed);
