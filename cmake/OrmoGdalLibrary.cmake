@@ -1,7 +1,6 @@
 # What needs GDAL stands in a library of its own, so that reading metadata never loads libgdal.
 find_package(GDAL 3 REQUIRED)
-file(GLOB ORMO_GDAL_SOURCES CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/raster/gdal/*.cpp"
-     "${PROJECT_SOURCE_DIR}/nitf/NITFFactory.cpp")
+file(GLOB ORMO_GDAL_SOURCES CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/raster/gdal/*.cpp")
 if(ORMO_GDAL_SOURCES)
     add_library(ormo_csm_gdal ${ORMO_GDAL_SOURCES})
     add_library(Ormo::csm_gdal ALIAS ormo_csm_gdal)

@@ -12,15 +12,8 @@ file(
     "${PROJECT_SOURCE_DIR}/segments/*.h"
     "${PROJECT_SOURCE_DIR}/nitf/*.h"
     "${PROJECT_SOURCE_DIR}/isd/*.h")
-# Internals: headers that name no exported class.
-set(ORMO_INTERNAL_HEADERS)
-foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
-    file(STRINGS "${PROJECT_SOURCE_DIR}/${header}" exported REGEX "ORMO_CSM_API" LIMIT_COUNT 1)
-    if(NOT exported AND NOT header MATCHES "foundation/(Automation|CSMApi|CharStrCompare)\\.h$")
-        list(APPEND ORMO_INTERNAL_HEADERS "${header}")
-    endif()
-endforeach()
-list(REMOVE_ITEM ORMO_PUBLIC_HEADERS ${ORMO_INTERNAL_HEADERS})
+# Internals live in detail/ folders and are never installed.
+list(FILTER ORMO_PUBLIC_HEADERS EXCLUDE REGEX "(^|/)detail/")
 
 set(ORMO_UMBRELLA "#pragma once\n\n// Every public class of the Ormo CSM library.\n\n")
 foreach(header IN LISTS ORMO_PUBLIC_HEADERS)

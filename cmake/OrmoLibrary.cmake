@@ -10,7 +10,7 @@ file(
     "${PROJECT_SOURCE_DIR}/segments/*.cpp"
     "${PROJECT_SOURCE_DIR}/nitf/*.cpp"
     "${PROJECT_SOURCE_DIR}/isd/*.cpp")
-list(FILTER ORMO_CORE_SOURCES EXCLUDE REGEX "/raster/gdal/|/nitf/NITFFactory\\.cpp$")
+list(FILTER ORMO_CORE_SOURCES EXCLUDE REGEX "/raster/gdal/")
 
 # Compiled once; the shared library is what users get, the static archive lets the tests reach internals.
 add_library(ormo_csm_objects OBJECT ${ORMO_CORE_SOURCES})

@@ -2,7 +2,7 @@
 
 #include "fields/FieldRow.h"
 #include "fields/TagIndex.h"
-#include "foundation/Ascii.h"
+#include "foundation/detail/Ascii.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/CSMException.h"
+#include "CSMException.h"
 
 namespace ORMO::SensorModel::CSM {
 

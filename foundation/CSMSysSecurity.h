@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
+#include "CSMCnst.h"
+#include "Export.h"
 
 namespace ORMO::SensorModel::CSM {
 

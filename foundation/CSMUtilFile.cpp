@@ -1,10 +1,10 @@
 #include "foundation/CSMUtilFile.h"
 
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/HandOut.h"
-#include "foundation/Utf8.h"
+#include "foundation/detail/Ascii.h"
+#include "foundation/detail/HandOut.h"
+#include "foundation/detail/Utf8.h"
 
 #include <exception>
 #include <fstream>

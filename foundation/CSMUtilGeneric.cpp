@@ -1,9 +1,9 @@
 #include "foundation/CSMUtilGeneric.h"
 
-#include "foundation/Ascii.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/DecimalNumber.h"
+#include "foundation/detail/Ascii.h"
+#include "foundation/detail/DecimalNumber.h"
 
 #include <exception>
 #include <limits>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/CSMApi.h"
-#include "foundation/Export.h"
+#include "CSMApi.h"
+#include "Export.h"
 
 #include <string>
 #include <vector>

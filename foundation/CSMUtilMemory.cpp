@@ -1,6 +1,6 @@
 #include "foundation/CSMUtilMemory.h"
 
-#include "foundation/HandOut.h"
+#include "foundation/detail/HandOut.h"
 
 namespace ORMO::SensorModel::CSM::Util {
 std::size_t CSMUtilMemory::AllocateBoolArray(std::size_t aCount, bool** aOut) noexcept

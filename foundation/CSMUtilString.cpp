@@ -1,9 +1,9 @@
 #include "foundation/CSMUtilString.h"
 
-#include "foundation/Ascii.h"
 #include "foundation/CSMUtilGeneric.h"
-#include "foundation/HandOut.h"
-#include "foundation/Utf8.h"
+#include "foundation/detail/Ascii.h"
+#include "foundation/detail/HandOut.h"
+#include "foundation/detail/Utf8.h"
 
 #include <algorithm>
 #include <climits>

@@ -1,6 +1,6 @@
 // What CSMUtilString does with bytes, byte order and arrays of texts.
 #include "foundation/CSMUtilString.h"
-#include "foundation/HandOut.h"
+#include "foundation/detail/HandOut.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // The conversions of CSMUtilString between text and numbers.
-#include "foundation/Ascii.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/DecimalNumber.h"
-#include "foundation/HandOut.h"
+#include "foundation/detail/Ascii.h"
+#include "foundation/detail/DecimalNumber.h"
+#include "foundation/detail/HandOut.h"
 
 #include <algorithm>
 #include <charconv>

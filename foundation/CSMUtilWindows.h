@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Automation.h"
-#include "foundation/Export.h"
+#include "Automation.h"
+#include "Export.h"
 
 #include <atomic>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/Export.h"
+#include "Export.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -3,7 +3,7 @@
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilFile.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/LastMessages.h"
+#include "foundation/detail/LastMessages.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/CSMApi.h"
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "isd/SupportedISD.h"
+#include "../foundation/CSMApi.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/Export.h"
+#include "SupportedISD.h"
 
 #include <cstddef>
 #include <cstdio>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "isd/SupportedISD.h"
+#include "../foundation/Export.h"
+#include "SupportedISD.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -3,11 +3,11 @@
 #include "fields/ByteSource.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
-#include "nitf/FileHeaderReader.h"
+#include "foundation/detail/Ascii.h"
 #include "raster/GDALNITFFileReader.h"
+#include "segments/fileheader/detail/FileHeaderReader.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "isd/ImageSupportData.h"
-#include "nitf/NITFFileHeader.h"
-#include "nitf/NITFImageSubheader.h"
-#include "segments/NITFDESSubheader.h"
-#include "segments/NITFRESSubheader.h"
-#include "segments/NITFStdDataSegmentInfo.h"
-#include "segments/NITFTextSubheader.h"
+#include "../foundation/Export.h"
+#include "../segments/NITFStdDataSegmentInfo.h"
+#include "../segments/des/NITFDESSubheader.h"
+#include "../segments/fileheader/NITFFileHeader.h"
+#include "../segments/image/NITFImageSubheader.h"
+#include "../segments/res/NITFRESSubheader.h"
+#include "../segments/text/NITFTextSubheader.h"
+#include "ImageSupportData.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,10 +1,10 @@
 #include "isd/ImageSupportDataNITF20.h"
 
-#include "nitf/NITF20FileHeader.h"
-#include "nitf/NITF20ImageSubheader.h"
-#include "segments/NITF20DESSubheader.h"
-#include "segments/NITF20RESSubheader.h"
-#include "segments/NITF20TextSubheader.h"
+#include "segments/des/NITF20DESSubheader.h"
+#include "segments/fileheader/NITF20FileHeader.h"
+#include "segments/image/NITF20ImageSubheader.h"
+#include "segments/res/NITF20RESSubheader.h"
+#include "segments/text/NITF20TextSubheader.h"
 
 namespace ORMO::SensorModel::CSM {
 

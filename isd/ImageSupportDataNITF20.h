@@ -1,6 +1,6 @@
 #pragma once
 
-#include "isd/ImageSupportDataNITF.h"
+#include "ImageSupportDataNITF.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -1,10 +1,10 @@
 #include "isd/ImageSupportDataNITF21.h"
 
-#include "nitf/NITF21FileHeader.h"
-#include "nitf/NITF21ImageSubheader.h"
-#include "segments/NITF21DESSubheader.h"
-#include "segments/NITF21RESSubheader.h"
-#include "segments/NITF21TextSubheader.h"
+#include "segments/des/NITF21DESSubheader.h"
+#include "segments/fileheader/NITF21FileHeader.h"
+#include "segments/image/NITF21ImageSubheader.h"
+#include "segments/res/NITF21RESSubheader.h"
+#include "segments/text/NITF21TextSubheader.h"
 
 namespace ORMO::SensorModel::CSM {
 

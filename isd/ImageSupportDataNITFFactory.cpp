@@ -2,12 +2,12 @@
 
 #include "foundation/CSMException.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/LastMessages.h"
+#include "foundation/detail/LastMessages.h"
 #include "isd/ImageSupportDataNITF20.h"
 #include "isd/ImageSupportDataNITF21.h"
-#include "isd/IsdCompanion.h"
 #include "isd/SupportedISD.h"
 #include "isd/WrapperCSMISD.h"
+#include "isd/detail/IsdCompanion.h"
 #include "raster/GDALNITFFileReader.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "nitf/NITFCnst.h"
+#include "../foundation/Export.h"
+#include "../nitf/NITFCnst.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "isd/ImageSupportDataOSDEFactory.h"
 
-#include "foundation/LastMessages.h"
+#include "foundation/detail/LastMessages.h"
 
 namespace ORMO::SensorModel::CSM {
 namespace {

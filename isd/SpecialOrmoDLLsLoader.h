@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/CSMUtilWindows.h"
-#include "foundation/Export.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/CSMUtilWindows.h"
+#include "../foundation/Export.h"
 
 #include <cstddef>
 

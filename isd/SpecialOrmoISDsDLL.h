@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/CSMUtilWindows.h"
-#include "foundation/Export.h"
-#include "isd/SupportedISD.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/CSMUtilWindows.h"
+#include "../foundation/Export.h"
+#include "SupportedISD.h"
 
 namespace ORMO::SensorModel::CSM {
 

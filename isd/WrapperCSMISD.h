@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/CSMApi.h"
-#include "foundation/Export.h"
+#include "../foundation/CSMApi.h"
+#include "../foundation/Export.h"
 
 namespace ORMO::SensorModel::CSM {
 

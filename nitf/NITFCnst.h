@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "nitf/NITFCnstLimits.h"
-#include "nitf/NITFCnstTreCERETag.h"
-#include "nitf/NITFCnstXml.h"
+#include "../foundation/Export.h"
+#include "NITFCnstLimits.h"
+#include "NITFCnstTreCERETag.h"
+#include "NITFCnstXml.h"
 
 #include <string>
 

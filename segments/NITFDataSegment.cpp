@@ -5,9 +5,9 @@
 #include "fields/Xml.h"
 #include "foundation/CSMExceptions.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
-#include "segments/SegmentContents.h"
-#include "segments/SegmentData.h"
-#include "segments/SegmentWords.h"
+#include "segments/detail/SegmentContents.h"
+#include "segments/detail/SegmentData.h"
+#include "segments/detail/SegmentWords.h"
 
 #include <string_view>
 #include <utility>

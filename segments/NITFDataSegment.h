@@ -1,6 +1,6 @@
 #pragma once
 
-#include "segments/NITFFieldSegment.h"
+#include "NITFFieldSegment.h"
 
 #include <cstddef>
 #include <cstdio>

@@ -5,13 +5,13 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilGeneric.h"
 #include "foundation/CSMUtilString.h"
-#include "segments/SegmentContents.h"
-#include "segments/SegmentWords.h"
+#include "foundation/detail/Ascii.h"
+#include "segments/detail/SegmentContents.h"
+#include "segments/detail/SegmentWords.h"
 #include "tre/TREFactory.h"
 
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "segments/NITFStdDataSegment.h"
+#include "NITFStdDataSegment.h"
 
 #include <cstddef>
 #include <cstdint>

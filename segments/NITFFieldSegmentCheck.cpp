@@ -2,11 +2,11 @@
 
 #include "fields/MessageText.h"
 #include "fields/ValueRule.h"
-#include "segments/Findings.h"
 #include "segments/NITFFieldSegment.h"
-#include "segments/SecurityCheck.h"
-#include "segments/SegmentContents.h"
-#include "segments/SegmentWords.h"
+#include "segments/detail/Findings.h"
+#include "segments/detail/SecurityCheck.h"
+#include "segments/detail/SegmentContents.h"
+#include "segments/detail/SegmentWords.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -1,8 +1,8 @@
 // The lists and maps that a header hands out, made when somebody asks for them.
 
-#include "foundation/OnFirstUse.h"
+#include "foundation/detail/OnFirstUse.h"
 #include "segments/NITFFieldSegment.h"
-#include "segments/SegmentContents.h"
+#include "segments/detail/SegmentContents.h"
 
 namespace ORMO::SensorModel::CSM {
 

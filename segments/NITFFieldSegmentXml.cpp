@@ -6,8 +6,8 @@
 #include "foundation/CSMUtilString.h"
 #include "segments/NITFFieldSegment.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
-#include "segments/SegmentContents.h"
-#include "segments/SegmentWords.h"
+#include "segments/detail/SegmentContents.h"
+#include "segments/detail/SegmentWords.h"
 
 #include <memory>
 

@@ -2,9 +2,9 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
+#include "foundation/detail/Ascii.h"
 #include "tre/TREFactory.h"
 
 #include <algorithm>

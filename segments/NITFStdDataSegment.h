@@ -1,10 +1,10 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "nitf/NITFCnst.h"
-#include "segments/NITFStdDataSegmentInfo.h"
-#include "tre/TREStore.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/Export.h"
+#include "../nitf/NITFCnst.h"
+#include "../tre/TREStore.h"
+#include "NITFStdDataSegmentInfo.h"
 
 #include <cstddef>
 #include <cstdint>

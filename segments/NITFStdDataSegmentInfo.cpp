@@ -2,7 +2,7 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
+#include "foundation/detail/Ascii.h"
 #include "segments/NITFStdDataSegment.h"
 
 #include <string_view>

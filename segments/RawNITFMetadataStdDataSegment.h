@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "tre/RawNITFMetadata.h"
-#include "tre/RawNITFMetadataFields.h"
-#include "tre/RawNITFMetadataTRE.h"
+#include "../foundation/Export.h"
+#include "../tre/RawNITFMetadata.h"
+#include "../tre/RawNITFMetadataFields.h"
+#include "../tre/RawNITFMetadataTRE.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "tre/RawNITFMetadata.h"
 
-#include "tre/RawNITFMetadataArrays.h"
+#include "tre/detail/RawNITFMetadataArrays.h"
 
 #include <algorithm>
 #include <new>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "tre/RawNITFMetadata.h"
+#include "../foundation/Export.h"
+#include "RawNITFMetadata.h"
 
 #include <cstddef>
 #include <string>

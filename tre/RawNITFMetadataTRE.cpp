@@ -1,6 +1,6 @@
 #include "tre/RawNITFMetadataTRE.h"
 
-#include "foundation/HandOut.h"
+#include "foundation/detail/HandOut.h"
 #include "tre/TRE.h"
 
 #include <string_view>

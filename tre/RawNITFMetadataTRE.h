@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "tre/RawNITFMetadata.h"
-#include "tre/RawNITFMetadataFields.h"
+#include "../foundation/Export.h"
+#include "RawNITFMetadata.h"
+#include "RawNITFMetadataFields.h"
 
 #include <cstddef>
 #include <string>

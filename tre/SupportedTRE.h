@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "tre/SupportedTreFactory.h"
-#include "tre/TRE.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/Export.h"
+#include "SupportedTreFactory.h"
+#include "TRE.h"
 
 #include <cstddef>
 #include <map>

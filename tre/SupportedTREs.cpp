@@ -1,9 +1,9 @@
 #include "tre/SupportedTREs.h"
 
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
+#include "foundation/detail/Ascii.h"
 #include "nitf/NITFCnst.h"
-#include "tre/TreMaker.h"
+#include "tre/detail/TreMaker.h"
 #include "tre/groups/SupportedTreGroups.h"
 #include "tre/groups/SupportedTreNSDE.h"
 

@@ -6,14 +6,14 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilGeneric.h"
 #include "foundation/CSMUtilString.h"
+#include "foundation/detail/Ascii.h"
 #include "tre/SupportedTREs.h"
-#include "tre/TreLayout.h"
-#include "tre/TreViews.h"
+#include "tre/detail/TreLayout.h"
+#include "tre/detail/TreViews.h"
 
 #include <algorithm>
 #include <limits>

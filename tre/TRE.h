@@ -1,10 +1,10 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/CharStrCompare.h"
-#include "foundation/Export.h"
-#include "tre/SupportedTreFactory.h"
-#include "tre/TreDetailedInfo.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/CharStrCompare.h"
+#include "../foundation/Export.h"
+#include "SupportedTreFactory.h"
+#include "TreDetailedInfo.h"
 
 #include <cstddef>
 #include <cstdint>

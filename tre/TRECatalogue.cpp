@@ -2,11 +2,11 @@
 
 #include "fields/FieldValue.h"
 #include "fields/ValueRule.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMUtilString.h"
+#include "foundation/detail/Ascii.h"
 #include "tre/SupportedTREs.h"
-#include "tre/TreHelp.h"
-#include "tre/TreMaker.h"
+#include "tre/detail/TreHelp.h"
+#include "tre/detail/TreMaker.h"
 #include "tre/groups/SupportedTreGroup.h"
 
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "tre/TreDetailedInfo.h"
+#include "../foundation/Export.h"
+#include "TreDetailedInfo.h"
 
 #include <string>
 #include <vector>

@@ -2,11 +2,11 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
+#include "foundation/detail/Ascii.h"
 #include "tre/SupportedTREs.h"
-#include "tre/TreMaker.h"
+#include "tre/detail/TreMaker.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "tre/TRE.h"
-#include "tre/TREStore.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/Export.h"
+#include "TRE.h"
+#include "TREStore.h"
 
 #include <cstddef>
 #include <cstdint>

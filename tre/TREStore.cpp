@@ -1,8 +1,8 @@
 #include "tre/TREStore.h"
 
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
+#include "foundation/detail/Ascii.h"
 #include "tre/TREFactory.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/CharStrCompare.h"
-#include "foundation/Export.h"
-#include "tre/TRE.h"
+#include "../foundation/CharStrCompare.h"
+#include "../foundation/Export.h"
+#include "TRE.h"
 
 #include <cstddef>
 #include <map>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "nitf/NITFCnst.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/Export.h"
+#include "../nitf/NITFCnst.h"
 
 #include <cstdint>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "fields/FieldStore.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/HandOut.h"
+#include "foundation/detail/HandOut.h"
 #include "nitf/NITFCnst.h"
 
 #include <algorithm>

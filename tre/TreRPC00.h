@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Export.h"
-#include "tre/TRE.h"
+#include "../foundation/Export.h"
+#include "TRE.h"
 
 #include <array>
 #include <cstddef>

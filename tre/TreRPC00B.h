@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "tre/TreRPC00.h"
+#include "../foundation/CSMCnst.h"
+#include "../foundation/Export.h"
+#include "TreRPC00.h"
 
 #include <cstddef>
 

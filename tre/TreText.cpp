@@ -4,16 +4,16 @@
 #include "fields/FieldValue.h"
 #include "fields/Number.h"
 #include "fields/Xml.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMUtilString.h"
-#include "foundation/OnFirstUse.h"
+#include "foundation/detail/Ascii.h"
+#include "foundation/detail/OnFirstUse.h"
 #include "nitf/NITFCnst.h"
 #include "tre/RawNITFMetadataTRE.h"
 #include "tre/SupportedTREs.h"
 #include "tre/TREStore.h"
-#include "tre/TreHelp.h"
-#include "tre/TreLayout.h"
-#include "tre/TreViews.h"
+#include "tre/detail/TreHelp.h"
+#include "tre/detail/TreLayout.h"
+#include "tre/detail/TreViews.h"
 
 #include <mutex>
 

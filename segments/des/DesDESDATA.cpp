@@ -1,7 +1,7 @@
 #include "segments/des/DesDESDATA.h"
 
 #include "foundation/CSMExceptions.h"
-#include "segments/des/DesLayout.h"
+#include "segments/des/detail/DesLayout.h"
 
 #include <string_view>
 #include <typeinfo>

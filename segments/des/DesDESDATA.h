@@ -1,6 +1,6 @@
 #pragma once
 
-#include "segments/des/DesFieldSet.h"
+#include "DesFieldSet.h"
 
 #include <cstddef>
 #include <memory>

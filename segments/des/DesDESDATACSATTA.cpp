@@ -3,8 +3,8 @@
 #include "fields/FieldValue.h"
 #include "fields/FieldWalk.h"
 #include "segments/des/DesDESSHFCSATTA.h"
-#include "segments/des/DesLayout.h"
 #include "segments/des/SupportedDESDATAs.h"
+#include "segments/des/detail/DesLayout.h"
 
 #include <algorithm>
 #include <utility>

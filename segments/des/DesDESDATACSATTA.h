@@ -1,6 +1,6 @@
 #pragma once
 
-#include "segments/des/DesDESDATA.h"
+#include "DesDESDATA.h"
 
 #include <cstddef>
 #include <memory>

@@ -3,8 +3,8 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "segments/des/DesDESSHFCSSHPA.h"
-#include "segments/des/DesLayout.h"
 #include "segments/des/SupportedDESDATAs.h"
+#include "segments/des/detail/DesLayout.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "segments/des/DesDESSHFCSATTA.h"
 
-#include "segments/des/DesLayout.h"
 #include "segments/des/SupportedDESSHFs.h"
+#include "segments/des/detail/DesLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -2,8 +2,8 @@
 
 #include "fields/FieldWalk.h"
 #include "fields/Number.h"
-#include "segments/des/DesLayout.h"
 #include "segments/des/SupportedDESSHFs.h"
+#include "segments/des/detail/DesLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 

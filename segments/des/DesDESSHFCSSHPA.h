@@ -1,6 +1,6 @@
 #pragma once
 
-#include "segments/des/DesDESSHF.h"
+#include "DesDESSHF.h"
 
 #include <cstddef>
 #include <memory>

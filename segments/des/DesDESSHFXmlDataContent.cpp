@@ -1,8 +1,8 @@
 #include "segments/des/DesDESSHFXmlDataContent.h"
 
 #include "fields/FieldWalk.h"
-#include "segments/des/DesLayout.h"
 #include "segments/des/SupportedDESSHFs.h"
+#include "segments/des/detail/DesLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -7,13 +7,13 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilGeneric.h"
 #include "foundation/CSMUtilString.h"
-#include "segments/Findings.h"
-#include "segments/des/DesLayout.h"
+#include "foundation/detail/Ascii.h"
+#include "segments/des/detail/DesLayout.h"
+#include "segments/detail/Findings.h"
 
 #include <limits>
 #include <mutex>

@@ -2,8 +2,8 @@
 
 #include "segments/des/DesDESDATACSATTA.h"
 #include "segments/des/DesDESDATACSSHPA.h"
-#include "segments/des/DesMakers.h"
 #include "segments/des/SupportedDESSHFs.h"
+#include "segments/des/detail/DesMakers.h"
 
 #include <cstring>
 

@@ -3,7 +3,7 @@
 #include "segments/des/DesDESSHFCSATTA.h"
 #include "segments/des/DesDESSHFCSSHPA.h"
 #include "segments/des/DesDESSHFXmlDataContent.h"
-#include "segments/des/DesMakers.h"
+#include "segments/des/detail/DesMakers.h"
 
 #include <cstring>
 

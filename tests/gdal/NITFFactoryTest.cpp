@@ -1,6 +1,6 @@
 #include "isd/ImageSupportDataNITF.h"
 #include "isd/ImageSupportDataNITFFactory.h"
-#include "nitf/NITFFactory.h"
+#include "raster/gdal/NITFFactory.h"
 #include "tests/support/Corpus.h"
 
 #include <filesystem>

@@ -1,6 +1,6 @@
 #include "foundation/CSMExceptions.h"
-#include "nitf/NITF21FileHeader.h"
 #include "segments/NITFStdDataSegment.h"
+#include "segments/fileheader/NITF21FileHeader.h"
 #include "tests/support/Refusal.h"
 #include "tre/TREFactory.h"
 

@@ -1,5 +1,5 @@
-#include "segments/NITF20DESSubheader.h"
-#include "segments/NITF21DESSubheader.h"
+#include "segments/des/NITF20DESSubheader.h"
+#include "segments/des/NITF21DESSubheader.h"
 #include "tests/segments/BuiltSegment.h"
 #include "tests/support/Corpus.h"
 

@@ -3,7 +3,7 @@
 #include "tests/support/Refusal.h"
 #include "tre/SupportedTREs.h"
 #include "tre/TREFactory.h"
-#include "tre/TreMaker.h"
+#include "tre/detail/TreMaker.h"
 #include "tre/groups/SupportedTreGroup.h"
 #include "tre/groups/SupportedTreGroups.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tre/TreLayout.h"
 #include "tre/TreRPC00B.h"
+#include "tre/detail/TreLayout.h"
 #include "tre/tags/TreTags.h"
 
 #include <algorithm>

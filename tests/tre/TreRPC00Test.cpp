@@ -1,7 +1,7 @@
 #include "nitf/NITFCnst.h"
 #include "tests/support/Corpus.h"
-#include "tre/TreMaker.h"
 #include "tre/TreRPC00B.h"
+#include "tre/detail/TreMaker.h"
 #include "tre/tags/TreTags.h"
 
 #include <array>

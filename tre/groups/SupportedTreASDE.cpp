@@ -1,6 +1,6 @@
 #include "nitf/NITFCnst.h"
-#include "tre/TreMaker.h"
 #include "tre/TreRPC00B.h"
+#include "tre/detail/TreMaker.h"
 #include "tre/groups/SupportedTreGroups.h"
 #include "tre/tags/TreTags.h"
 

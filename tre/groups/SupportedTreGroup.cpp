@@ -1,10 +1,10 @@
 #include "tre/groups/SupportedTreGroup.h"
 
 #include "fields/Number.h"
-#include "foundation/Ascii.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
-#include "tre/TreMaker.h"
+#include "foundation/detail/Ascii.h"
+#include "tre/detail/TreMaker.h"
 
 #include <algorithm>
 #include <memory>

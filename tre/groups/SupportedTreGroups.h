@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tre/groups/SupportedTreGroup.h"
+#include "SupportedTreGroup.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tre/SupportedTRE.h"
+#include "../SupportedTRE.h"
 
 #include <array>
 

@@ -1,5 +1,5 @@
 #include "nitf/NITFCnst.h"
-#include "tre/TreMaker.h"
+#include "tre/detail/TreMaker.h"
 #include "tre/groups/SupportedTreGroups.h"
 #include "tre/tags/TreTags.h"
 

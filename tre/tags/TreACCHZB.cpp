@@ -1,6 +1,6 @@
-#include "tre/TreLayout.h"
-#include "tre/tags/AccuracyRegion.h"
+#include "tre/detail/TreLayout.h"
 #include "tre/tags/TreTags.h"
+#include "tre/tags/detail/AccuracyRegion.h"
 
 namespace ORMO::SensorModel::CSM {
 

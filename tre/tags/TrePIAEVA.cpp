@@ -1,4 +1,4 @@
-#include "tre/TreLayout.h"
+#include "tre/detail/TreLayout.h"
 #include "tre/tags/TreTags.h"
 
 namespace ORMO::SensorModel::CSM {

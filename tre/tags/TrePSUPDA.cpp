@@ -1,5 +1,5 @@
-#include "tre/tags/NotPublicLayout.h"
 #include "tre/tags/TreTags.h"
+#include "tre/tags/detail/NotPublicLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -1,6 +1,6 @@
 #include "tre/TreRPC00B.h"
 
-#include "tre/TreLayout.h"
+#include "tre/detail/TreLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 

@@ -1,6 +1,6 @@
 #include "fields/FieldWalk.h"
 #include "fields/Number.h"
-#include "tre/TreLayout.h"
+#include "tre/detail/TreLayout.h"
 #include "tre/tags/TreTags.h"
 
 #include <array>

@@ -1,6 +1,6 @@
-#include "tre/TreLayout.h"
-#include "tre/tags/RsmAdjustable.h"
+#include "tre/detail/TreLayout.h"
 #include "tre/tags/TreTags.h"
+#include "tre/tags/detail/RsmAdjustable.h"
 
 namespace ORMO::SensorModel::CSM {
 

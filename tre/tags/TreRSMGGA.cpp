@@ -1,5 +1,5 @@
 #include "fields/FieldWalk.h"
-#include "tre/TreLayout.h"
+#include "tre/detail/TreLayout.h"
 #include "tre/tags/TreTags.h"
 
 namespace ORMO::SensorModel::CSM {

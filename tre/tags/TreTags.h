@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/CSMCnst.h"
-#include "foundation/Export.h"
-#include "tre/TRE.h"
+#include "../../foundation/CSMCnst.h"
+#include "../../foundation/Export.h"
+#include "../TRE.h"
 
 #include <cstddef>
 

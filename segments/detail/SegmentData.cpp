@@ -1,0 +1,57 @@
+#include "segments/detail/SegmentData.h"
+
+#include <algorithm>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+namespace {
+
+constexpr std::uint64_t PIECE = 3U << 18U;
+
+}  // namespace
+
+std::string SegmentData::Fault() const
+{
+    if (m_source == nullptr) {
+        return "there is no file to read them from";
+    }
+    if (!IsAvailable()) {
+        return "they begin at byte offset " + std::to_string(m_start) + " and take " + std::to_string(m_size) +
+               " byte(s), the file has " + std::to_string(m_source->Size());
+    }
+    return {};
+}
+
+bool SegmentData::Read(std::string& aOut) const
+{
+    return IsAvailable() && m_source->Read(m_start, m_size, aOut);
+}
+
+const std::string* SegmentData::Bytes() const
+{
+    const std::lock_guard lock(m_guard);
+    if (m_bytes == nullptr) {
+        std::string bytes;
+        if (!Read(bytes)) {
+            return nullptr;
+        }
+        m_bytes = std::make_unique<const std::string>(std::move(bytes));
+    }
+    return m_bytes.get();
+}
+
+bool SegmentData::ForEachPiece(const std::function<bool(std::string_view)>& aReceive) const
+{
+    if (!IsAvailable()) {
+        return false;
+    }
+    std::string piece;
+    for (std::uint64_t done = 0; done != m_size; done += piece.size()) {
+        if (!m_source->Read(m_start + done, std::min(PIECE, m_size - done), piece) || !aReceive(piece)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace ORMO::SensorModel::CSM::Detail

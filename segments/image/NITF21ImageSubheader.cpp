@@ -1,0 +1,133 @@
+#include "segments/image/NITF21ImageSubheader.h"
+
+#include "fields/FieldTable.h"
+#include "fields/FieldWalk.h"
+#include "fields/Number.h"
+#include "foundation/detail/Ascii.h"
+#include "segments/detail/SecurityRows.h"
+#include "segments/fileheader/detail/HeaderWords.h"
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+using namespace Detail;
+using enum Detail::Need;
+using enum Detail::Form;
+
+/// NBANDS has one digit; more than nine bands stand in XBANDS. An image without bands is refused.
+bool BandCount(const WalkContext& aContext, std::uint64_t& aOut)
+{
+    if (!aContext.Count("NBANDS", aOut)) {
+        return false;
+    }
+    return aOut != 0 || (aContext.Count("XBANDS", aOut) && aOut != 0);
+}
+
+// MIL-STD-2500C, table A-3.
+// clang-format off
+constexpr FieldRow ROWS[] = {
+    Field("IM",        2, Required,        Text,        "IM", "", "File Part Type [IM]"),
+    Field("IID1",     10, Required,        Text,        "", "", "Image Identifier 1"),
+    Field("IDATIM",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Image Date and Time {CCYYMMDDhhmmss}"),
+    Field("TGTID",    17, RequiredBlank,   Text,        "", "", "Target Identifier {BBBBBBBBBBOOOOOCC}"),
+    Field("IID2",     80, RequiredBlank,   Ecs,         "", "", "Image Identifier 2"),
+    ORMO_SECURITY_ROWS_21("ISCLAS", nullptr, "IS", "Image", Ecs),
+    Field("ENCRYP",    1, Required,        Digits,      "0", "", "Encryption [0]").Locked(),
+    Field("ISORCE",   42, RequiredBlank,   Ecs,         "", "", "Image Source"),
+    Field("NROWS",     8, Required,        Digits,      "00000001..99999999", "", "Number of Significant Rows in Image [00000001-99999999]").Locked(),
+    Field("NCOLS",     8, Required,        Digits,      "00000001..99999999", "", "Number of Significant Columns in Image [00000001-99999999]").Locked(),
+    Field("PVTYPE",    3, Required,        Text,        "INT|B|SI|R|C", "", "Pixel Value Type [INT|B|SI|R|C]").Locked(),
+    Field("IREP",      8, Required,        Text,        "MONO|RGB|RGB/LUT|MULTI|NODISPLY|NVECTOR|POLAR|VPH|YCbCr601", "", "Image Representation [MONO|RGB|RGB/LUT|MULTI|NODISPLY|NVECTOR|POLAR|VPH|YCbCr601]").Locked(),
+    Field("ICAT",      8, Required,        Text,        "VIS|SL|TI|FL|RD|EO|OP|HR|HS|CP|BP|SAR|SARIQ|IR|MAP|MS|FP|MRI|XRAY|CAT|VD|PAT|LEG|DTEM|MATR|LOCG|BARO|CURRENT|DEPTH|WIND|CLOUD", "", "Image Category [VIS|SL|TI|FL|RD|EO|OP|HR|HS|CP|BP|SAR|SARIQ|IR|MAP|MS|FP|MRI|XRAY|CAT|VD|PAT|LEG|DTEM|MATR|LOCG|BARO|CURRENT|DEPTH|WIND]").Locked(),
+    Field("ABPP",      2, Required,        Digits,      "01..96", "", "Actual Bits-Per-Pixel Per Band [01-96]").Locked(),
+    Field("PJUST",     1, Required,        Text,        "L|R", "", "Pixel Justification [L|R]").Locked(),
+    Field("ICORDS",    1, RequiredBlank,   Text,        "U|G|N|S|D|P", "", "Image Coordinate Representation [U|G|N|S|D]").Locked(),
+    WhenFilled("ICORDS"),
+        Field("IGEOLO",   60, Conditional,     Text,        "", "", "Image Geographic Location"),
+    End(),
+    Field("NICOM",     1, Required,        Digits,      "0..9", "", "Number of Image Comments [0-9]"),
+    Repeat("NICOM"),
+        Field("ICOM",     80, ConditionalBlank, Ecs,        "", "", "Image Comment n"),
+    End(),
+    Field("IC",        2, Required,        Text,        "NC|NM|C1|C3|C4|C5|C6|C7|C8|I1|M1|M3|M4|M5|M6|M7|M8", "", "Image Compression [NC|NM|C1|C3|C4|C5|C6|C7|C8|I1|M1|M3|M4|M5|M6|M7|M8]").Locked(),
+    When("IC", "C1|C3|C4|C5|C8|M1|M3|M4|M5|M8|I1"),
+        Field("COMRAT",    4, Conditional,     Text,        "", "", "Compression Rate Code").Locked(),
+    End(),
+    Field("NBANDS",    1, Required,        Digits,      "0..9", "", "Number of Bands [0-9]"),
+    When("NBANDS", "0"),
+        Field("XBANDS",    5, Conditional,     Digits,      "00010..99999", "", "Number of Multispectral Bands [00010-99999]").Locked(),
+    End(),
+    RepeatBy("NBANDS, or XBANDS when NBANDS is 0", BandCount, "NBANDS"),
+        Field("IREPBAND",  2, RequiredBlank,   Text,        "", "", "nth Band Representation [LU|R|G|B|M|Y|Cb|Cr]").Locked(),
+        Field("ISUBCAT",   6, RequiredBlank,   Text,        "", "", "nth Band Subcategory").Locked(),
+        Field("IFC",       1, Required,        Text,        "N", "", "nth Band Image Filter Condition [N]").Locked(),
+        Field("IMFLT",     3, RequiredBlank,   Text,        "", "", "nth Band Standard Image Filter Code [blank]").Locked(),
+        Field("NLUTS",     1, Required,        Digits,      "0..4", "", "Number of LUTS for the nth Image Band [0-4]").Locked(),
+        WhenPositive("NLUTS"),
+            Field("NELUT",     5, Conditional,     Digits,      "00001..65536", "", "Number of LUT Entries for the nth Image Band [00001-65536]").Locked(),
+        End(),
+        Repeat("NLUTS"),
+            Sized("LUTD", "NELUT", 0, Conditional,     Bytes,       "", "", "nth Image Band mth LUT"),
+        End(),
+    End(),
+    Field("ISYNC",     1, Required,        Digits,      "0", "", "Image Sync Code [0]").Locked(),
+    Field("IMODE",     1, Required,        Text,        "B|P|R|S", "", "Image Mode [B|P|R|S]").Locked(),
+    Field("NBPR",      4, Required,        Digits,      "0001..9999", "", "Number of Blocks Per Row [0001-9999]").Locked(),
+    Field("NBPC",      4, Required,        Digits,      "0001..9999", "", "Number of Blocks Per Column [0001-9999]").Locked(),
+    Field("NPPBH",     4, Required,        Digits,      "0000..8192", "", "Number of Pixels Per Block Horizontal [0000-8192]").Locked(),
+    Field("NPPBV",     4, Required,        Digits,      "0000..8192", "", "Number of Pixels Per Block Vertical [0000-8192]").Locked(),
+    Field("NBPP",      2, Required,        Digits,      "01..96", "", "Number of Bits Per Pixel Per Band [01-96]").Locked(),
+    Field("IDLVL",     3, Required,        Digits,      "001..999", "", "Image Display Level [001-999]").Locked(),
+    Field("IALVL",     3, Required,        Digits,      "000..998", "", "Image Attachment Level [000-998]").Locked(),
+    Field("ILOC",     10, Required,        NumberText,  "", "", "Image Location {rrrrrccccc}[-9999-99999]"),
+    Field("IMAG",      4, Required,        Text,        "", "", "Image Magnification [any decimal up to 999|/2-/999]"),
+    Field("UDIDL",     5, Required,        Digits,      "00000|00003..99999", "", "User Defined Image Data Length [00000|00003-99999]"),
+    WhenPositive("UDIDL"),
+        Field("UDOFL",     3, Conditional,     Digits,      "000..999", "", "User Defined Overflow [000-999]").Locked(),
+        Sized("UDID", "UDIDL", -3, Conditional,     Records,     "", "", "User Defined Image Data"),
+    End(),
+    Field("IXSHDL",    5, Required,        Digits,      "00000|00003..99999", "", "Image Extended Subheader Data Length [00000|00003-99999]"),
+    WhenPositive("IXSHDL"),
+        Field("IXSOFL",    3, Conditional,     Digits,      "000..999", "", "Image Extended Subheader Overflow [000-999]").Locked(),
+        Sized("IXSHD", "IXSHDL", -3, Conditional,     Records,     "", "", "Image Extended Subheader Data"),
+    End(),
+};
+// clang-format on
+constexpr auto TABLE = MakeTable(ROWS);
+static_assert(TABLE.wellFormed);
+static_assert(FixedWidth(ROWS) == 426);
+
+constexpr SegmentWords WORDS = ImageWords(
+    "ERROR: Failed to get all the NITF 2.1 image subheader field values from the input image subheader data "
+    "stream.");
+
+}  // namespace
+
+NITF21ImageSubheader::NITF21ImageSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
+                                           const char* aVersionText, Util::CSMCnst::ByteOrder aByteOrder,
+                                           bool aSpecificOnly)
+    : NITFImageSubheader(aVersionText, Table())
+{
+    InitNITFImageSubheader(aInfo.GetSegmentIndex());
+    ReadImageSubheader(aRaw, aLength, aInfo, aSpecificOnly, aByteOrder,
+                       "NITF21ImageSubheader::InitNITF21ImageSubheader");
+}
+
+const Detail::FieldTable& NITF21ImageSubheader::Table() noexcept
+{
+    static constexpr FieldTable table = TABLE.View();
+    return table;
+}
+
+bool NITF21ImageSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
+{
+    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+}
+
+const Detail::SegmentWords& NITF21ImageSubheader::Words() const
+{
+    return WORDS;
+}
+
+}  // namespace ORMO::SensorModel::CSM
