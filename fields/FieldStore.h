@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields/FieldTable.h"
+#include "foundation/CSMCnst.h"
 
 #include <cstdint>
 #include <span>
@@ -25,10 +26,17 @@ struct FieldEntry
 class FieldStore
 {
 public:
+    using ByteOrder = Util::CSMCnst::ByteOrder;
+
     FieldStore() = default;
-    explicit FieldStore(const FieldTable& aTable) : m_table(aTable) {}
+    /// The byte order is a property of the bytes: counts of the walk, value rules and queries all follow it.
+    explicit FieldStore(const FieldTable& aTable, ByteOrder aOrder = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN)
+        : m_table(aTable), m_order(aOrder)
+    {
+    }
 
     const FieldTable& Table() const noexcept { return m_table; }
+    ByteOrder Order() const noexcept { return m_order; }
     bool IsEmpty() const noexcept { return m_entries.empty(); }
     std::span<const FieldEntry> Entries() const noexcept { return m_entries; }
     const FieldRow& Row(const FieldEntry& aEntry) const noexcept { return m_table.Row(aEntry.row); }
@@ -81,6 +89,7 @@ private:
     void Clear() noexcept;
 
     FieldTable m_table;
+    ByteOrder m_order = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN;
     std::string m_arena;  // NUL behind the bytes used
     std::size_t m_used = 0;
     std::vector<FieldEntry> m_entries;

@@ -1,11 +1,8 @@
 #include "fields/FieldValue.h"
 
-#include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "foundation/CSMUtilString.h"
 
-#include <algorithm>
-#include <array>
 #include <bit>
 #include <limits>
 
@@ -17,19 +14,6 @@ using Util::CSMCnst;
 
 // The widest decimal text that always fits 32 bits.
 constexpr std::uint32_t DIGITS_IN_32_BITS = 9;
-
-bool UnsignedOf(std::string_view aValue, CSMCnst::ByteOrder aOrder, std::uint64_t& aOut) noexcept
-{
-    if (aOrder != CSMCnst::BYTE_ORDER_LITTLE_ENDIAN) {
-        return BigEndianUnsigned(aValue, aOut);
-    }
-    std::array<char, sizeof aOut> bytes{};
-    if (aValue.size() > bytes.size()) {
-        return false;
-    }
-    std::reverse_copy(aValue.begin(), aValue.end(), bytes.begin());
-    return BigEndianUnsigned({bytes.data(), aValue.size()}, aOut);
-}
 
 std::int64_t SignExtended(std::uint64_t aBits, std::size_t aBytes) noexcept
 {
@@ -81,7 +65,7 @@ bool ValueAsInt64(const FieldRow& aRow, std::string_view aValue, CSMCnst::ByteOr
         return aValue.find('\0') == std::string_view::npos && Util::CSMUtilString::ToInt64(aValue.data(), aOut);
     }
     std::uint64_t bits = 0;
-    if ((aRow.form != Form::Unsigned && aRow.form != Form::Signed) || !UnsignedOf(aValue, aOrder, bits)) {
+    if ((aRow.form != Form::Unsigned && aRow.form != Form::Signed) || !BinaryUnsigned(aValue, aOrder, bits)) {
         return false;
     }
     if (aRow.form == Form::Signed) {
@@ -101,7 +85,7 @@ bool ValueAsUInt64(const FieldRow& aRow, std::string_view aValue, CSMCnst::ByteO
         return aValue.find('\0') == std::string_view::npos && Util::CSMUtilString::ToUInt64(aValue.data(), aOut);
     }
     if (aRow.form == Form::Unsigned) {
-        return UnsignedOf(aValue, aOrder, aOut);
+        return BinaryUnsigned(aValue, aOrder, aOut);
     }
     std::int64_t number = 0;
     if (!ValueAsInt64(aRow, aValue, aOrder, number) || number < 0) {
@@ -118,7 +102,7 @@ bool ValueAsDouble(const FieldRow& aRow, std::string_view aValue, CSMCnst::ByteO
     }
     std::uint64_t bits = 0;
     if (aRow.form == Form::Float) {
-        if (!UnsignedOf(aValue, aOrder, bits)) {
+        if (!BinaryUnsigned(aValue, aOrder, bits)) {
             return false;
         }
         if (aValue.size() == sizeof(float)) {
@@ -129,7 +113,7 @@ bool ValueAsDouble(const FieldRow& aRow, std::string_view aValue, CSMCnst::ByteO
         return aValue.size() == sizeof(double);
     }
     std::int64_t number = 0;
-    if (aRow.form == Form::Unsigned && UnsignedOf(aValue, aOrder, bits)) {
+    if (aRow.form == Form::Unsigned && BinaryUnsigned(aValue, aOrder, bits)) {
         aOut = static_cast<double>(bits);
         return true;
     }
@@ -138,28 +122,6 @@ bool ValueAsDouble(const FieldRow& aRow, std::string_view aValue, CSMCnst::ByteO
     }
     aOut = static_cast<double>(number);
     return true;
-}
-
-std::string ValueForDisplay(const FieldRow& aRow, std::string_view aValue, CSMCnst::ByteOrder aOrder)
-{
-    if (!aRow.IsBinary()) {
-        return std::string(aValue);
-    }
-    std::uint64_t whole = 0;
-    std::int64_t number = 0;
-    double real = 0.0;
-    if (aRow.form == Form::Unsigned && ValueAsUInt64(aRow, aValue, aOrder, whole)) {
-        return std::to_string(whole);
-    }
-    if (aRow.form == Form::Signed && ValueAsInt64(aRow, aValue, aOrder, number)) {
-        return std::to_string(number);
-    }
-    if (aRow.form == Form::Float && ValueAsDouble(aRow, aValue, aOrder, real)) {
-        std::array<char, 32> text{};
-        const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), real);
-        return error == std::errc{} ? std::string(text.data(), end) : std::string();
-    }
-    return Shown(aValue, aValue.size());
 }
 
 const char* NeedLetter(Need aNeed) noexcept

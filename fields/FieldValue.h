@@ -25,10 +25,6 @@ namespace ORMO::SensorModel::CSM::Detail {
 [[nodiscard]] bool ValueAsDouble(const FieldRow& aRow, std::string_view aValue, Util::CSMCnst::ByteOrder aOrder,
                                  double& aOut);
 
-/// The value as a person reads it: text as it stands, binary numbers in decimal, other binary data in hexadecimal.
-[[nodiscard]] std::string ValueForDisplay(const FieldRow& aRow, std::string_view aValue,
-                                          Util::CSMCnst::ByteOrder aOrder);
-
 /// The requirement as the catalogue prints it: R, C or O; blanks allowed shows in brackets in XML only.
 [[nodiscard]] const char* NeedLetter(Need aNeed) noexcept;
 

@@ -34,9 +34,10 @@ std::uint64_t Adjusted(std::uint64_t aNumber, std::int64_t aAdjust) noexcept
     return aNumber < less ? 0 : aNumber - less;
 }
 
-bool CountOfValue(const FieldRow& aRow, std::string_view aValue, std::uint64_t& aOut) noexcept
+bool CountOfEntry(const FieldStore& aStore, const FieldEntry& aEntry, std::uint64_t& aOut) noexcept
 {
-    return aRow.IsBinary() ? BigEndianUnsigned(aValue, aOut) : ToCount(aValue, aOut);
+    const std::string_view value = aStore.Value(aEntry);
+    return aStore.Row(aEntry).IsBinary() ? BinaryUnsigned(value, aStore.Order(), aOut) : ToCount(value, aOut);
 }
 
 }  // namespace
@@ -75,7 +76,7 @@ std::string_view WalkContext::Text(std::string_view aTag) const noexcept
 bool WalkContext::Count(std::string_view aTag, std::uint64_t& aOut) const noexcept
 {
     const FieldEntry* const entry = Current(aTag);
-    return entry != nullptr && CountOfValue(m_store.Row(*entry), m_store.Value(*entry), aOut);
+    return entry != nullptr && CountOfEntry(m_store, *entry, aOut);
 }
 
 bool WalkContext::CountInTurn(std::string_view aTag, std::uint32_t aTurn, std::uint64_t& aOut) const noexcept
@@ -85,7 +86,7 @@ bool WalkContext::CountInTurn(std::string_view aTag, std::uint32_t aTurn, std::u
     const auto it = std::find_if(entries.rbegin(), entries.rend(), [row, aTurn](const FieldEntry& aEntry) {
         return aEntry.row == row && aEntry.turns[0] == aTurn;
     });
-    return it != entries.rend() && CountOfValue(m_store.Row(*it), m_store.Value(*it), aOut);
+    return it != entries.rend() && CountOfEntry(m_store, *it, aOut);
 }
 
 WalkResult FieldWalk::Read(std::string_view aBytes, FieldStore& aStore)
@@ -290,7 +291,7 @@ bool FieldWalk::Holds(std::size_t aRow, bool& aOut)
 bool FieldWalk::CountOf(std::uint16_t aRow, std::uint64_t& aOut) const noexcept
 {
     const FieldEntry* const entry = m_context.Current(aRow);
-    return entry != nullptr && CountOfValue(m_table.Row(aRow), m_store.Value(*entry), aOut);
+    return entry != nullptr && CountOfEntry(m_store, *entry, aOut);
 }
 
 std::uint64_t FieldWalk::LeastNow(std::size_t aGroup, std::size_t aOuter)

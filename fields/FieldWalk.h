@@ -46,7 +46,7 @@ public:
 
     /// The value of the field in the turns walked now; empty when it was not read.
     std::string_view Text(std::string_view aTag) const noexcept;
-    /// The value as a count (text or big-endian binary); false when it is none.
+    /// The value as a count (text, or binary in the byte order of the data); false when it is none.
     [[nodiscard]] bool Count(std::string_view aTag, std::uint64_t& aOut) const noexcept;
     /// The count in a field of an outermost repeat as read in one of its turns, for rows behind the end of that repeat.
     /// Looks through what was read so far.

@@ -27,4 +27,22 @@ std::string Shown(std::string_view aBytes, std::size_t aMost)
     return text;
 }
 
+std::string Printable(std::string_view aText)
+{
+    constexpr std::string_view HEX = "0123456789ABCDEF";
+    std::string text;
+    text.reserve(aText.size());
+    for (const char character : aText) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= 0x20 && byte < 0x7F) {
+            text += character;
+        } else {
+            text += "\\x";
+            text += HEX[byte >> 4U];
+            text += HEX[byte & 0x0FU];
+        }
+    }
+    return text;
+}
+
 }  // namespace ORMO::SensorModel::CSM::Detail

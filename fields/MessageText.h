@@ -67,4 +67,8 @@ inline std::string Quoted(std::string_view aName)
 /// Bytes as a person can read them in a message: quoted when printable, else hexadecimal; cut after `aMost` bytes.
 std::string Shown(std::string_view aBytes, std::size_t aMost = 32);
 
+/// The text with every byte that could steer a terminal or end a line written as \xNN: control bytes, DEL and the bytes
+/// above 127.
+std::string Printable(std::string_view aText);
+
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -1,5 +1,7 @@
 #include "fields/Number.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace ORMO::SensorModel::CSM::Detail {
@@ -54,6 +56,19 @@ bool BigEndianUnsigned(std::string_view aBytes, std::uint64_t& aOut) noexcept
     }
     aOut = value;
     return true;
+}
+
+bool BinaryUnsigned(std::string_view aBytes, Util::CSMCnst::ByteOrder aOrder, std::uint64_t& aOut) noexcept
+{
+    if (aOrder != Util::CSMCnst::BYTE_ORDER_LITTLE_ENDIAN) {
+        return BigEndianUnsigned(aBytes, aOut);
+    }
+    std::array<char, sizeof aOut> bytes{};
+    if (aBytes.size() > bytes.size()) {
+        return false;
+    }
+    std::reverse_copy(aBytes.begin(), aBytes.end(), bytes.begin());
+    return BigEndianUnsigned({bytes.data(), aBytes.size()}, aOut);
 }
 
 }  // namespace ORMO::SensorModel::CSM::Detail

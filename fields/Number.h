@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/CSMCnst.h"
+
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -46,5 +48,9 @@ template<typename Count>
 
 /// The most significant byte first; more than eight bytes are refused.
 [[nodiscard]] bool BigEndianUnsigned(std::string_view aBytes, std::uint64_t& aOut) noexcept;
+
+/// By the byte order of the bytes; every other order than little-endian counts as big-endian.
+[[nodiscard]] bool BinaryUnsigned(std::string_view aBytes, Util::CSMCnst::ByteOrder aOrder,
+                                  std::uint64_t& aOut) noexcept;
 
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -1,9 +1,9 @@
 #include "fields/ValueRule.h"
 
+#include "fields/FieldValue.h"
 #include "fields/Number.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
@@ -27,30 +27,6 @@ bool HasAlternative(std::string_view aRule, std::string_view aWanted) noexcept
         }
     }
     return false;
-}
-
-/// The number in a binary field; false for widths that are no number.
-bool BinaryNumber(const FieldRow& aRow, std::string_view aValue, double& aOut) noexcept
-{
-    std::uint64_t bits = 0;
-    if (!BigEndianUnsigned(aValue, bits)) {
-        return false;
-    }
-    if (aRow.form == Form::Float) {
-        if (aValue.size() == sizeof(float)) {
-            aOut = static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
-            return true;
-        }
-        aOut = std::bit_cast<double>(bits);
-        return aValue.size() == sizeof(double);
-    }
-    if (aRow.form == Form::Signed) {
-        const auto unused = 64U - 8U * static_cast<unsigned>(aValue.size());
-        aOut = static_cast<double>(static_cast<std::int64_t>(bits << unused) >> unused);
-        return true;
-    }
-    aOut = static_cast<double>(bits);
-    return true;
 }
 
 bool IsInNumberRange(std::string_view aRange, double aValue) noexcept
@@ -130,11 +106,12 @@ bool AlternativeMatches(const FieldRow& aRow, std::string_view aAlternative, std
     return aValue == TrimBlanks(aAlternative);
 }
 
-Verdict CheckBinary(const FieldRow& aRow, std::string_view aValue) noexcept
+Verdict CheckBinary(const FieldRow& aRow, std::string_view aValue, Util::CSMCnst::ByteOrder aOrder)
 {
     std::string_view rest(aRow.values);
     double number = 0.0;
-    if (rest.empty() || aRow.form == Form::Bytes || aRow.form == Form::Colour || !BinaryNumber(aRow, aValue, number)) {
+    if (rest.empty() || aRow.form == Form::Bytes || aRow.form == Form::Colour ||
+        !ValueAsDouble(aRow, aValue, aOrder, number)) {
         return Verdict::Good;
     }
     while (!rest.empty()) {
@@ -261,13 +238,13 @@ bool IsListed(std::string_view aValue, std::string_view aAlternatives) noexcept
     }
 }
 
-Verdict CheckValue(const FieldRow& aRow, std::string_view aValue) noexcept
+Verdict CheckValue(const FieldRow& aRow, std::string_view aValue, Util::CSMCnst::ByteOrder aOrder)
 {
     if (aRow.form == Form::Records) {
         return Verdict::Good;
     }
     if (aRow.IsBinary()) {
-        return CheckBinary(aRow, aValue);
+        return CheckBinary(aRow, aValue, aOrder);
     }
     const std::string_view value = TrimBlanks(aValue);
     std::string_view rest(aRow.values);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields/FieldRow.h"
+#include "foundation/CSMCnst.h"
 
 #include <cstdint>
 #include <string_view>
@@ -26,7 +27,8 @@ enum class Verdict : std::uint8_t
 // Each alternative may carry its meaning behind "=": "L=left|R=right|blank=unknown|any=other registered code".
 
 /// Judges a value, padding included, by the form, need and rule of its row. Nothing depends on the locale.
-[[nodiscard]] Verdict CheckValue(const FieldRow& aRow, std::string_view aValue) noexcept;
+[[nodiscard]] Verdict CheckValue(const FieldRow& aRow, std::string_view aValue,
+                                 Util::CSMCnst::ByteOrder aOrder = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN);
 
 /// True when the value, trailing blanks left out on both sides, is one of the texts between the "|" of the list.
 [[nodiscard]] bool IsListed(std::string_view aValue, std::string_view aAlternatives) noexcept;

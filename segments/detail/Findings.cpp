@@ -1,6 +1,5 @@
 #include "segments/detail/Findings.h"
 
-#include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilGeneric.h"
 
 #include <algorithm>
@@ -23,19 +22,6 @@ std::string Line(const char* aSentence, std::string_view aOwner, std::string_vie
 }
 
 }  // namespace
-
-const char* FaultSentence(const FieldRow& aRow, Verdict aVerdict) noexcept
-{
-    if (aRow.need == Need::Optional) {
-        return CSMMsg::Warn::FIELD_VALUE_OUT_OF_VALID_RANGE;
-    }
-    if (aVerdict == Verdict::Blank) {
-        return aRow.IsRequired() ? CSMMsg::Error::MISSING_REQUIRED_FIELD
-                                 : CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD;
-    }
-    return aRow.IsRequired() ? CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE
-                             : CSMMsg::Error::INVALID_CONDITIONALLY_REQUIRED_FIELD_VALUE;
-}
 
 void Findings::Lines::Add(std::string_view aLine)
 {

@@ -1,15 +1,12 @@
 #pragma once
 
-#include "fields/ValueRule.h"
+#include "fields/FieldRecord.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM::Detail {
-
-/// The sentence about a value that the rule of its row does not allow; it has no blank at its end.
-[[nodiscard]] const char* FaultSentence(const FieldRow& aRow, Verdict aVerdict) noexcept;
 
 /// What a validation finds: one line for each fault. All are counted; of the lines only so many are kept that a hostile
 /// file cannot flood a report.

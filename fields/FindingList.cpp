@@ -1,0 +1,193 @@
+#include "fields/FindingList.h"
+
+#include "fields/MessageText.h"
+
+#include <algorithm>
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+/// Of a value no more than a person would read.
+constexpr std::size_t MOST_VALUE = 64;
+
+bool IsError(Finding::Level aLevel) noexcept
+{
+    return aLevel != Finding::Level::Warning;
+}
+
+void AppendPart(std::string& aText, std::string_view aPart)
+{
+    aText += aText.empty() ? "" : ", ";
+    aText += aPart;
+}
+
+}  // namespace
+
+std::string Finding::Place() const
+{
+    std::string place;
+    if (!segment.empty()) {
+        AppendPart(place, index == NO_INDEX ? segment : segment + ' ' + std::to_string(index));
+    }
+    if (!tre.empty()) {
+        AppendPart(place, "TRE " + Detail::Printable(tre) + (turn == 0 ? "" : ' ' + std::to_string(turn)));
+    }
+    if (!area.empty()) {
+        AppendPart(place, area);
+    }
+    if (offset != NO_OFFSET) {
+        AppendPart(place, "byte offset " + std::to_string(offset));
+    }
+    if (!value.empty()) {
+        place += place.empty() ? "value " : ": value ";
+        place += Detail::Shown(value);
+    }
+    if (!allowed.empty()) {
+        AppendPart(place, "allowed " + allowed);
+    }
+    if (!clause.empty()) {
+        AppendPart(place, clause);
+    }
+    return place;
+}
+
+std::string Finding::Line() const
+{
+    std::string line = sentence;
+    if (!field.empty()) {
+        line += ' ';
+        line += owner.empty() ? "" : owner + "::";
+        line += field;
+    }
+    if (!detail.empty()) {
+        line += ' ';
+        line += detail;
+    }
+    const std::string place = Place();
+    if (!place.empty()) {
+        line += " [" + place + ']';
+    }
+    return Detail::Printable(line);
+}
+
+namespace Detail {
+
+Finding MakeFinding(Finding::Level aLevel, std::string_view aSentence, std::string_view aOwner, std::string_view aField)
+{
+    Finding finding;
+    finding.level = aLevel;
+    finding.sentence = aSentence;
+    finding.owner = aOwner;
+    finding.field = aField;
+    return finding;
+}
+
+Finding MakeFinding(std::string_view aSentence)
+{
+    return MakeFinding(aSentence.starts_with("WARN")    ? Finding::Level::Warning
+                       : aSentence.starts_with("FATAL") ? Finding::Level::Fatal
+                                                        : Finding::Level::Error,
+                       aSentence);
+}
+
+void FindingList::Add(Finding aFinding, std::string aText)
+{
+    ++m_counts[static_cast<std::size_t>(aFinding.level)];
+    if (!HasRoom()) {
+        return;
+    }
+    if (aFinding.value.size() > MOST_VALUE) {
+        aFinding.value.resize(MOST_VALUE);
+        aFinding.value.shrink_to_fit();
+    }
+    m_bytes += aFinding.sentence.size() + aFinding.detail.size() + aFinding.value.size() + aFinding.allowed.size() +
+               aFinding.owner.size() + aFinding.field.size() + aText.size();
+    m_kept.push_back({std::move(aFinding), std::move(aText)});
+}
+
+void FindingList::Add(const FindingList& aOther)
+{
+    const auto before = m_counts;
+    for (const Entry& entry : aOther.m_kept) {
+        Add(entry.finding, entry.text);
+    }
+    for (std::size_t i = 0; i != m_counts.size(); ++i) {
+        m_counts[i] = before[i] + aOther.m_counts[i];
+    }
+}
+
+std::size_t FindingList::Errors(const FindingMark& aSince) const noexcept
+{
+    return m_counts[1] + m_counts[2] - aSince.counts[1] - aSince.counts[2];
+}
+
+std::size_t FindingList::Warnings(const FindingMark& aSince) const noexcept
+{
+    return m_counts[0] - aSince.counts[0];
+}
+
+std::vector<Finding> FindingList::Findings() const
+{
+    std::vector<Finding> findings;
+    findings.reserve(m_kept.size());
+    for (const Entry& entry : m_kept) {
+        findings.push_back(entry.finding);
+    }
+    return findings;
+}
+
+void FindingList::PlaceAt(const FindingMark& aSince, std::string_view aSegment, int aIndex)
+{
+    for (std::size_t i = aSince.kept; i < m_kept.size(); ++i) {
+        Finding& finding = m_kept[i].finding;
+        if (finding.segment.empty()) {
+            finding.segment = aSegment;
+            finding.index = aIndex;
+        }
+    }
+}
+
+std::string FindingList::Joined(bool aErrors, const FindingMark& aSince, std::string_view aJoin, bool aLines) const
+{
+    std::string text;
+    std::size_t shown = 0;
+    for (std::size_t i = aSince.kept; i < m_kept.size(); ++i) {
+        const Entry& entry = m_kept[i];
+        if (IsError(entry.finding.level) == aErrors) {
+            text += shown++ == 0 ? "" : aJoin;
+            text += aLines || entry.text.empty() ? entry.finding.Line() : entry.text;
+        }
+    }
+    const std::size_t all = aErrors ? Errors(aSince) : Warnings(aSince);
+    if (shown < all) {
+        text += text.empty() ? "" : aJoin;
+        text += "WARN: " + std::to_string(all - shown) + " further messages are left out.";
+    }
+    return text;
+}
+
+std::string FindingList::Blocks(bool aErrors, const FindingMark& aSince) const
+{
+    return Joined(aErrors, aSince, "\n\n", false);
+}
+
+std::string FindingList::Lines(bool aErrors, const FindingMark& aSince) const
+{
+    return Joined(aErrors, aSince, "\n", true);
+}
+
+std::string FindingList::LeftOutLine() const
+{
+    return LeftOut() == 0 ? std::string() : "WARN: " + std::to_string(LeftOut()) + " further messages are left out.";
+}
+
+void FindingList::Clear() noexcept
+{
+    m_kept.clear();
+    m_bytes = 0;
+    m_counts = {};
+}
+
+}  // namespace Detail
+}  // namespace ORMO::SensorModel::CSM
