@@ -2,22 +2,24 @@
 
 #include "../foundation/Export.h"
 #include "NITFCnstLimits.h"
-#include "NITFCnstTreCERETag.h"
 #include "NITFCnstXml.h"
 
 #include <string>
 
 namespace ORMO::SensorModel::CSM {
 
+class NITFCnstTreCERETag;
+
 /// Constants of the NITF and NSIF formats as the system knows them: codes, texts, limits and switches.
 ///
 /// Holder of constants and static functions; no object of it exists. Texts are NUL-terminated, live as long as the
-/// program and are never freed. A header of constants only: it may be included from everywhere. The limits, the TRE
-/// tags and the XML names have headers of their own, and this one brings them all.
+/// program and are never freed. A header of constants only: it may be included from everywhere. The limits and the
+/// XML names have headers of their own, which this one brings.
 class ORMO_CSM_API NITFCnst : public NITFCnstXml
 {
 public:
     using Limits = NITFCnstLimits;
+    /// The TRE tags and their codes; whoever names one includes tre/NITFCnstTreCERETag.h.
     using TreCERETag = NITFCnstTreCERETag;
 
     /// Scope of the constants that only the segments of NITF 2.0 files have.

@@ -25,7 +25,8 @@ public:
     /// A deep copy of a typed TRE; false, with a null copy, when this is not the source's group.
     virtual bool CloneTRE(const TRE& aSource, TRE** aCopy) const = 0;
     /// Makes a typed TRE from its data. False, with a null TRE, for a listed tag that has no typed class. Raises
-    /// UnsupportedTREException for a tag outside the list, and what the TRE's constructor raises. With `aValidate`
+    /// UnsupportedTREException for a tag outside the list, std::invalid_argument for null data with a length, and what
+    /// the TRE's constructor raises. With `aValidate`
     /// values that the standard does not allow raise InitializationException, and `aErrors` receives a new text with a
     /// line for each. The group code is only looked at by the registry.
     virtual bool CreateTRE(const char* aTag, const char* aData, TRE** aTre, char** aErrors, std::size_t aLength,

@@ -8,25 +8,40 @@
 #include "tre/groups/SupportedTreNSDE.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
 namespace {
 
-/// All groups, the special providers included, in the order in which they are asked.
-const std::array<const SupportedTRE*, 11>& AllGroups()
+/// A group, the special providers included, and the code by which it is found.
+struct GroupRow
 {
-    static const std::array<const SupportedTRE*, 11> groups{
-        &SupportedTreASDE::Instance(),        &SupportedTreCommercialSDE::Instance(),
-        &SupportedTreDPPDB::Instance(),       &SupportedTreESD::Instance(),
-        &SupportedTreGeoSDE::Instance(),      &SupportedTreMISC::Instance(),
-        &SupportedTreNSDE::Instance(),        &SupportedTrePIAE::Instance(),
-        &SupportedTreResearchSDE::Instance(), &SupportedTreRPF::Instance(),
-        &SupportedTreRSM::Instance()};
-    return groups;
+    SupportedTreFactory::Enum code;
+    const SupportedTRE& (*instance)();
+};
+
+template<typename Group>
+const SupportedTRE& InstanceOf()
+{
+    return Group::Instance();
 }
+
+// In the order in which they are asked.
+constexpr GroupRow GROUPS[] = {
+    {SupportedTreFactory::ASDE, &InstanceOf<SupportedTreASDE>},
+    {SupportedTreFactory::CommercialSDE, &InstanceOf<SupportedTreCommercialSDE>},
+    {SupportedTreFactory::DPPDB, &InstanceOf<SupportedTreDPPDB>},
+    {SupportedTreFactory::ESD, &InstanceOf<SupportedTreESD>},
+    {SupportedTreFactory::GeoSDE, &InstanceOf<SupportedTreGeoSDE>},
+    {SupportedTreFactory::MISC, &InstanceOf<SupportedTreMISC>},
+    {SupportedTreFactory::NSDE, &InstanceOf<SupportedTreNSDE>},
+    {SupportedTreFactory::PIAE, &InstanceOf<SupportedTrePIAE>},
+    {SupportedTreFactory::ResearchSDE, &InstanceOf<SupportedTreResearchSDE>},
+    {SupportedTreFactory::RPF, &InstanceOf<SupportedTreRPF>},
+    {SupportedTreFactory::RSM, &InstanceOf<SupportedTreRSM>},
+};
 
 /// A tag of the groups with a fixed list.
 struct ListedTag
@@ -43,8 +58,8 @@ const std::vector<ListedTag>& AllTags()
     static const std::vector<ListedTag> tags = [] {
         std::vector<ListedTag> found;
         bool special = false;
-        for (const SupportedTRE* const asked : AllGroups()) {
-            const auto* const group = dynamic_cast<const SupportedTreGroup*>(asked);
+        for (const GroupRow& row : GROUPS) {
+            const auto* const group = dynamic_cast<const SupportedTreGroup*>(&row.instance());
             if (group == nullptr) {
                 special = true;
                 continue;
@@ -94,9 +109,10 @@ const SupportedTREs& SupportedTREs::Instance()
 
 SupportedTREs::SupportedTREs()
 {
-    for (const SupportedTRE* const group : AllGroups()) {
-        m_tags.insert(m_tags.end(), group->GetAllSupportedTREs().begin(), group->GetAllSupportedTREs().end());
-        m_typeMap.insert(group->GetTRETypeMap().begin(), group->GetTRETypeMap().end());
+    for (const GroupRow& row : GROUPS) {
+        const SupportedTRE& group = row.instance();
+        m_tags.insert(m_tags.end(), group.GetAllSupportedTREs().begin(), group.GetAllSupportedTREs().end());
+        m_typeMap.insert(group.GetTRETypeMap().begin(), group.GetTRETypeMap().end());
     }
     for (const char* const tag : m_tags) {
         m_types.push_back(m_typeMap.at(tag));
@@ -107,8 +123,8 @@ const std::vector<const SupportedTreGroup*>& SupportedTREs::GetGroups()
 {
     static const std::vector<const SupportedTreGroup*> groups = [] {
         std::vector<const SupportedTreGroup*> found;
-        for (const SupportedTRE* const group : AllGroups()) {
-            if (const auto* const listed = dynamic_cast<const SupportedTreGroup*>(group); listed != nullptr) {
+        for (const GroupRow& row : GROUPS) {
+            if (const auto* const listed = dynamic_cast<const SupportedTreGroup*>(&row.instance()); listed != nullptr) {
                 found.push_back(listed);
             }
         }
@@ -119,33 +135,11 @@ const std::vector<const SupportedTreGroup*>& SupportedTREs::GetGroups()
 
 const SupportedTRE* SupportedTREs::GroupOf(SupportedTreFactory::Enum aGroup)
 {
-    switch (aGroup) {
-        case SupportedTreFactory::ASDE:
-            return &SupportedTreASDE::Instance();
-        case SupportedTreFactory::CommercialSDE:
-            return &SupportedTreCommercialSDE::Instance();
-        case SupportedTreFactory::DPPDB:
-            return &SupportedTreDPPDB::Instance();
-        case SupportedTreFactory::ESD:
-            return &SupportedTreESD::Instance();
-        case SupportedTreFactory::NSDE:
-        case SupportedTreFactory::NSDESecond:
-            return &SupportedTreNSDE::Instance();
-        case SupportedTreFactory::GeoSDE:
-            return &SupportedTreGeoSDE::Instance();
-        case SupportedTreFactory::MISC:
-            return &SupportedTreMISC::Instance();
-        case SupportedTreFactory::PIAE:
-            return &SupportedTrePIAE::Instance();
-        case SupportedTreFactory::ResearchSDE:
-            return &SupportedTreResearchSDE::Instance();
-        case SupportedTreFactory::RPF:
-            return &SupportedTreRPF::Instance();
-        case SupportedTreFactory::RSM:
-            return &SupportedTreRSM::Instance();
-        default:
-            return nullptr;
-    }
+    // Both codes of the special providers lead to the one group that asks them.
+    const auto code = aGroup == SupportedTreFactory::NSDESecond ? SupportedTreFactory::NSDE : aGroup;
+    const auto* const row =
+        std::find_if(std::begin(GROUPS), std::end(GROUPS), [code](const GroupRow& aRow) { return aRow.code == code; });
+    return row == std::end(GROUPS) ? nullptr : &row->instance();
 }
 
 bool SupportedTREs::AbleToCreateTRE(const char* aTag, SupportedTreFactory::Enum* aGroup) const

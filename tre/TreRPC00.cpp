@@ -3,7 +3,7 @@
 #include "fields/FieldStore.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/HandOut.h"
-#include "nitf/NITFCnst.h"
+#include "tre/NITFCnstTreCERETag.h"
 
 #include <algorithm>
 #include <string>
@@ -13,16 +13,6 @@
 namespace ORMO::SensorModel::CSM {
 
 namespace {
-
-// Places of the fields in the data, counted from 0; twenty coefficients follow each place of a polynomial.
-constexpr std::size_t ERR_BIAS = 1;
-constexpr std::size_t ERR_RAND = 2;
-constexpr std::size_t LINE_OFF = 3;
-constexpr std::size_t LINE_SCALE = 8;
-constexpr std::size_t LINE_NUM_COEFF = 13;
-constexpr std::size_t LINE_DEN_COEFF = LINE_NUM_COEFF + TreRPC00::NUM_OF_COEFFICIENTS;
-constexpr std::size_t SAMP_NUM_COEFF = LINE_DEN_COEFF + TreRPC00::NUM_OF_COEFFICIENTS;
-constexpr std::size_t SAMP_DEN_COEFF = SAMP_NUM_COEFF + TreRPC00::NUM_OF_COEFFICIENTS;
 
 constexpr bool IsPermutation(const std::array<std::size_t, TreRPC00::NUM_OF_COEFFICIENTS>& aPlaces)
 {
@@ -101,12 +91,15 @@ bool TreRPC00::IsRPC00A() const noexcept
     return std::string_view(GetTag()) == NITFCnst::TreCERETag::RPC00A;
 }
 
-bool TreRPC00::ConvertField(std::size_t aPosition, double& aValue) const
+bool TreRPC00::ConvertField(std::string_view aTag, std::uint32_t aTurn, double& aValue) const
 {
-    if (aPosition >= GetNumOfFields()) {
+    const Detail::FieldStore& fields = Fields();
+    const Detail::FieldEntry* const entry =
+        fields.Find(fields.Table().Find(aTag, aTurn == 0 ? 0 : 1), Detail::Turns{aTurn});
+    if (entry == nullptr) {
         return false;
     }
-    const std::string_view text = Fields().Value(Fields().Entries()[aPosition]);
+    const std::string_view text = fields.Value(*entry);
     // A NUL inside would end the text for the conversion and hide what follows.
     return text.find('\0') == std::string_view::npos && Util::CSMUtilString::ToDouble(text.data(), aValue);
 }
@@ -115,11 +108,11 @@ bool TreRPC00::Convert() const
 {
     const bool fromA = IsRPC00A();
     for (std::size_t k = 0; k != NUM_OF_COEFFICIENTS; ++k) {
-        const std::size_t place = fromA ? c_mappingRPC00AToRPC00B[k] : k;
-        if (!ConvertField(LINE_NUM_COEFF + place, m_state.lineNumerator[k]) ||
-            !ConvertField(LINE_DEN_COEFF + place, m_state.lineDenominator[k]) ||
-            !ConvertField(SAMP_NUM_COEFF + place, m_state.sampleNumerator[k]) ||
-            !ConvertField(SAMP_DEN_COEFF + place, m_state.sampleDenominator[k])) {
+        const auto turn = static_cast<std::uint32_t>((fromA ? c_mappingRPC00AToRPC00B[k] : k) + 1);
+        if (!ConvertField("LINE_NUM_COEFF", turn, m_state.lineNumerator[k]) ||
+            !ConvertField("LINE_DEN_COEFF", turn, m_state.lineDenominator[k]) ||
+            !ConvertField("SAMP_NUM_COEFF", turn, m_state.sampleNumerator[k]) ||
+            !ConvertField("SAMP_DEN_COEFF", turn, m_state.sampleDenominator[k])) {
             return false;
         }
     }
@@ -188,33 +181,35 @@ void TreRPC00::DeleteConstCStringArray(const char**& aArray, std::size_t aCount)
     Util::CSMUtilString::DeleteConstCStringArray(aArray, aCount);
 }
 
-bool TreRPC00::ConvertCoordinates(std::size_t aPosition, CoordinateValues& aValues) const
-{
-    CoordinateValues values;
-    if (!ConvertField(aPosition, values.line) || !ConvertField(aPosition + 1, values.sample) ||
-        !ConvertField(aPosition + 2, values.latitude) || !ConvertField(aPosition + 3, values.longitude) ||
-        !ConvertField(aPosition + 4, values.height)) {
-        return false;
-    }
-    aValues = values;
-    return true;
-}
-
 bool TreRPC00::GetRPCOffsets(CoordinateValues& aOffsets) const
 {
-    return ConvertCoordinates(LINE_OFF, aOffsets);
+    CoordinateValues values;
+    if (!ConvertField("LINE_OFF", 0, values.line) || !ConvertField("SAMP_OFF", 0, values.sample) ||
+        !ConvertField("LAT_OFF", 0, values.latitude) || !ConvertField("LONG_OFF", 0, values.longitude) ||
+        !ConvertField("HEIGHT_OFF", 0, values.height)) {
+        return false;
+    }
+    aOffsets = values;
+    return true;
 }
 
 bool TreRPC00::GetRPCScales(CoordinateValues& aScales) const
 {
-    return ConvertCoordinates(LINE_SCALE, aScales);
+    CoordinateValues values;
+    if (!ConvertField("LINE_SCALE", 0, values.line) || !ConvertField("SAMP_SCALE", 0, values.sample) ||
+        !ConvertField("LAT_SCALE", 0, values.latitude) || !ConvertField("LONG_SCALE", 0, values.longitude) ||
+        !ConvertField("HEIGHT_SCALE", 0, values.height)) {
+        return false;
+    }
+    aScales = values;
+    return true;
 }
 
 bool TreRPC00::GetRPCErrors(double& aBias, double& aRandom) const
 {
     double bias = 0.0;
     double random = 0.0;
-    if (!ConvertField(ERR_BIAS, bias) || !ConvertField(ERR_RAND, random)) {
+    if (!ConvertField("ERR_BIAS", 0, bias) || !ConvertField("ERR_RAND", 0, random)) {
         return false;
     }
     aBias = bias;

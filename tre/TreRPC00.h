@@ -5,7 +5,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <mutex>
+#include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -87,8 +89,8 @@ private:
     bool Convert() const;
     State CopyState() const;
     bool IsRPC00A() const noexcept;
-    bool ConvertField(std::size_t aPosition, double& aValue) const;
-    bool ConvertCoordinates(std::size_t aPosition, CoordinateValues& aValues) const;
+    /// The number in the field of that tag; in its turn when it is repeated, counted from 1.
+    bool ConvertField(std::string_view aTag, std::uint32_t aTurn, double& aValue) const;
 
     mutable std::mutex m_guard;  // of the state, which queries change
     mutable State m_state;

@@ -1,4 +1,5 @@
 #include "nitf/NITFCnst.h"
+#include "tre/NITFCnstTreCERETag.h"
 
 #include <cstdint>
 #include <stdexcept>

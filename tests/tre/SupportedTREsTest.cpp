@@ -11,6 +11,7 @@
 #include <memory>
 #include <set>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -149,6 +150,15 @@ TEST(SupportedTREsTest, TypedOnlyLeavesOutTagsWithoutALayout)
     EXPECT_TRUE(Registry().AbleToCreateTRE("ACFTA", nullptr));
 }
 
+TEST(SupportedTREsTest, NullDataWithALengthIsAWrongArgument)
+{
+    TRE* tre = nullptr;
+    EXPECT_THROW(Registry().CreateTRE("OFFSET", nullptr, &tre, nullptr, 16, false, Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN,
+                                      SupportedTreFactory::MISC),
+                 std::invalid_argument);
+    EXPECT_EQ(nullptr, tre);
+}
+
 TEST(SupportedTREsTest, GroupsRefuseTagsOfOthers)
 {
     TRE* tre = nullptr;
@@ -202,6 +212,7 @@ TEST(SupportedTREsTest, RPC00AIsReadThroughTheClassOfRPC00BUnderItsOwnTag)
     TREFactory::Destroy(&tre);
     EXPECT_STREQ("RPC00A", copy->GetTag());
     EXPECT_EQ(1020, copy->GetUniqueExtensionTypeID());
+    EXPECT_EQ(0U, SupportedTreASDE::Instance().GetTRETypeMap().count("RPC00A"));
     EXPECT_EQ(SupportedTreFactory::ASDE, copy->GetSupportedTREFactoryCode());
     EXPECT_EQ(93U, copy->GetNumOfFields());
     EXPECT_EQ(TRE::TRE_TYPE_CONTROLLED_EXTENSION, copy->GetTREType());

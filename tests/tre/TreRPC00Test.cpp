@@ -1,5 +1,6 @@
 #include "nitf/NITFCnst.h"
 #include "tests/support/Corpus.h"
+#include "tre/NITFCnstTreCERETag.h"
 #include "tre/TreRPC00B.h"
 #include "tre/detail/TreMaker.h"
 #include "tre/tags/TreTags.h"

@@ -27,6 +27,7 @@ struct TreLayout
     const char* sources;  ///< what the layout rests on, separated by "; "
     LayoutCertainty certainty;
     FieldTable table;
+    const TreLayout* other = nullptr;  ///< a further layout of the same tag, for records of its own fixed length
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail

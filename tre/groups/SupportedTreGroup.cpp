@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 namespace ORMO::SensorModel::CSM {
@@ -22,8 +23,8 @@ SupportedTreGroup::SupportedTreGroup(SupportedTreFactory::Enum aCode, const char
     : m_code(aCode), m_description(aDescription), m_entries(aEntries), m_count(aCount)
 {
     for (std::size_t i = 0; i != aCount; ++i) {
-        m_typeMap[aEntries[i].tag] = aEntries[i].type;
         if (aEntries[i].listed) {
+            m_typeMap[aEntries[i].tag] = aEntries[i].type;
             m_tags.push_back(aEntries[i].tag);
             m_types.push_back(aEntries[i].type);
         }
@@ -74,6 +75,9 @@ bool SupportedTreGroup::CreateTRE(const char* aTag, const char* aData, TRE** aTr
         return false;
     }
     *aTre = nullptr;
+    if (aData == nullptr && aLength != 0) {
+        throw std::invalid_argument("ERROR: Invalid/NULL input argument(s).");
+    }
     const std::string_view tag = Trimmed(aTag);
     const TreEntry* const entry = FindEntry(tag);
     if (entry == nullptr) {

@@ -4,124 +4,40 @@
 
 namespace ORMO::SensorModel::CSM {
 
+// The groups differ only in their code, description and tags, so one pattern declares them all.
+#define ORMO_TRE_GROUP(aClass)                                     \
+    class ORMO_CSM_API aClass : public SupportedTreGroup           \
+    {                                                              \
+    public:                                                        \
+        static const aClass& Instance();                           \
+        /** The tags of the group. */                              \
+        static const std::vector<const char*>& GetSupportedTREs(); \
+                                                                   \
+    private:                                                       \
+        aClass();                                                  \
+    }
+
 /// ASDE (Airborne Support Data Extension).
-class ORMO_CSM_API SupportedTreASDE : public SupportedTreGroup
-{
-public:
-    static const SupportedTreASDE& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreASDE();
-};
-
+ORMO_TRE_GROUP(SupportedTreASDE);
 /// Commercial SDE (Support Data Extensions for Commercial Imagery Products).
-class ORMO_CSM_API SupportedTreCommercialSDE : public SupportedTreGroup
-{
-public:
-    static const SupportedTreCommercialSDE& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreCommercialSDE();
-};
-
+ORMO_TRE_GROUP(SupportedTreCommercialSDE);
 /// DPPDB (Digital Point Positioning Database).
-class ORMO_CSM_API SupportedTreDPPDB : public SupportedTreGroup
-{
-public:
-    static const SupportedTreDPPDB& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreDPPDB();
-};
-
+ORMO_TRE_GROUP(SupportedTreDPPDB);
 /// ESD (Exploitation Support Data).
-class ORMO_CSM_API SupportedTreESD : public SupportedTreGroup
-{
-public:
-    static const SupportedTreESD& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreESD();
-};
-
+ORMO_TRE_GROUP(SupportedTreESD);
 /// GeoSDE (Geospatial Support Data Extension).
-class ORMO_CSM_API SupportedTreGeoSDE : public SupportedTreGroup
-{
-public:
-    static const SupportedTreGeoSDE& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreGeoSDE();
-};
-
+ORMO_TRE_GROUP(SupportedTreGeoSDE);
 /// MISC (miscellaneous).
-class ORMO_CSM_API SupportedTreMISC : public SupportedTreGroup
-{
-public:
-    static const SupportedTreMISC& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreMISC();
-};
-
+ORMO_TRE_GROUP(SupportedTreMISC);
 /// PIAE (Profile for Imagery Archives Extensions).
-class ORMO_CSM_API SupportedTrePIAE : public SupportedTreGroup
-{
-public:
-    static const SupportedTrePIAE& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTrePIAE();
-};
-
+ORMO_TRE_GROUP(SupportedTrePIAE);
 /// ResearchSDE (Research Tagged Record Extensions).
-class ORMO_CSM_API SupportedTreResearchSDE : public SupportedTreGroup
-{
-public:
-    static const SupportedTreResearchSDE& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreResearchSDE();
-};
-
+ORMO_TRE_GROUP(SupportedTreResearchSDE);
 /// RPF (Raster Product Format).
-class ORMO_CSM_API SupportedTreRPF : public SupportedTreGroup
-{
-public:
-    static const SupportedTreRPF& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
-
-private:
-    SupportedTreRPF();
-};
-
+ORMO_TRE_GROUP(SupportedTreRPF);
 /// RSM (Replacement Sensor Model).
-class ORMO_CSM_API SupportedTreRSM : public SupportedTreGroup
-{
-public:
-    static const SupportedTreRSM& Instance();
-    /// The tags of the group.
-    static const std::vector<const char*>& GetSupportedTREs();
+ORMO_TRE_GROUP(SupportedTreRSM);
 
-private:
-    SupportedTreRSM();
-};
+#undef ORMO_TRE_GROUP
 
 }  // namespace ORMO::SensorModel::CSM

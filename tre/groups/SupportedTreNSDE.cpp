@@ -44,6 +44,11 @@ const SupportedTreNSDE& SupportedTreNSDE::Instance()
     return group;
 }
 
+const std::vector<const char*>& SupportedTreNSDE::GetSupportedTREs()
+{
+    return Instance().GetAllSupportedTREs();
+}
+
 SupportedTreNSDE::SupportedTreNSDE()
     : m_providers{ProviderFrom(SpecialOrmoDLLsLoader::GetRedOrmoISDsDLL()),
                   ProviderFrom(SpecialOrmoDLLsLoader::GetGoldOrmoISDsDLL())}

@@ -12,6 +12,8 @@ class ORMO_CSM_API SupportedTreNSDE : public SupportedTRE
 {
 public:
     static const SupportedTreNSDE& Instance();
+    /// The tags that the providers list.
+    static const std::vector<const char*>& GetSupportedTREs();
 
     /// Asks the first provider and then the second; a provider that throws counts as no.
     bool AbleToCreateTRE(const char* aTag, SupportedTreFactory::Enum* aGroup) const override;

@@ -1,7 +1,10 @@
 #include "tre/detail/TreLayout.h"
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TreICHIPA, TRE);
+ORMO_TYPED_TRE(TreICHIPB, TRE);
 
 // No table of this first version is public; programs read it as its successor, and so do we.
 const Detail::TreLayout& TreICHIPA::Layout()

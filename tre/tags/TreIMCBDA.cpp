@@ -1,7 +1,9 @@
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 #include "tre/tags/detail/NotPublicLayout.h"
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TreIMCBDA, TRE);
 
 const Detail::TreLayout& TreIMCBDA::Layout()
 {

@@ -1,7 +1,9 @@
 #include "tre/detail/TreLayout.h"
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TrePIAPRC, TRE);
 
 namespace {
 

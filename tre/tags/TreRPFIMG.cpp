@@ -1,12 +1,14 @@
 #include "fields/FieldWalk.h"
 #include "fields/Number.h"
 #include "tre/detail/TreLayout.h"
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 
 #include <array>
 #include <bit>
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TreRPFIMG, TRE);
 
 namespace {
 

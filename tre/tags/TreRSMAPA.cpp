@@ -1,8 +1,10 @@
 #include "tre/detail/TreLayout.h"
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 #include "tre/tags/detail/RsmAdjustable.h"
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TreRSMAPA, TRE);
 
 namespace {
 

@@ -1,9 +1,11 @@
 #include "fields/FieldWalk.h"
 #include "tre/detail/TreLayout.h"
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 #include "tre/tags/detail/RsmAdjustable.h"
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TreRSMDCA, TRE);
 
 namespace {
 

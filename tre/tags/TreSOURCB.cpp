@@ -1,8 +1,10 @@
 #include "fields/FieldWalk.h"
 #include "tre/detail/TreLayout.h"
-#include "tre/tags/TreTags.h"
+#include "tre/tags/TypedTre.h"
 
 namespace ORMO::SensorModel::CSM {
+
+ORMO_TYPED_TRE(TreSOURCB, TRE);
 
 namespace {
 

@@ -290,9 +290,9 @@ TEST(TreDifferentialTest, GdalReadsTheSameFieldsWithTheSameValues)
     for (const std::string& tag : described) {
         // RPC00A is read through the rows of RPC00B.
         const std::string_view rows = tag == "RPC00A" ? "RPC00B" : std::string_view(tag);
-        const auto* const found = std::find_if(TRE_LAYOUTS.begin(), TRE_LAYOUTS.end(),
+        const auto* const found = std::find_if(std::begin(TRE_LAYOUTS), std::end(TRE_LAYOUTS),
                                                [rows](const NamedLayout& aNamed) { return aNamed.tag == rows; });
-        if (found != TRE_LAYOUTS.end()) {
+        if (found != std::end(TRE_LAYOUTS)) {
             CompareTag(tag.c_str(), found->layout().table, met);
             ++compared;
         }
