@@ -56,6 +56,23 @@ std::unique_ptr<ByteSource> ByteSource::Open(const std::string& aPath, std::stri
     return std::unique_ptr<ByteSource>(new ByteSource(aPath, descriptor, static_cast<std::uint64_t>(status.st_size)));
 }
 
+std::unique_ptr<ByteSource> ByteSource::OfStream(std::FILE* aStream, std::string& aReason)
+{
+    const int descriptor = ::fcntl(::fileno(aStream), F_DUPFD_CLOEXEC, 0);
+    if (descriptor < 0) {
+        aReason = SystemReason();
+        return nullptr;
+    }
+    struct stat status = {};
+    const bool known = ::fstat(descriptor, &status) == 0;
+    if (!known || !S_ISREG(status.st_mode)) {
+        aReason = known ? KindReason(status) : SystemReason();
+        ::close(descriptor);
+        return nullptr;
+    }
+    return std::unique_ptr<ByteSource>(new ByteSource({}, descriptor, static_cast<std::uint64_t>(status.st_size)));
+}
+
 ByteSource::ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize)
     : m_path(std::move(aPath)), m_descriptor(aDescriptor), m_size(aSize)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,6 +15,9 @@ class ByteSource
 public:
     /// Opens a regular file for reading; null, with the reason in `aReason`, when there is none to read.
     [[nodiscard]] static std::unique_ptr<ByteSource> Open(const std::string& aPath, std::string& aReason);
+
+    /// The file behind a stream, which stays open and keeps its position. It has no path.
+    [[nodiscard]] static std::unique_ptr<ByteSource> OfStream(std::FILE* aStream, std::string& aReason);
 
     ~ByteSource();
     ByteSource(const ByteSource&) = delete;

@@ -4,6 +4,7 @@
 #include "fields/MessageText.h"
 #include "foundation/CSMUtilString.h"
 #include "nitf/NITFCnst.h"
+#include "raster/detail/GdalRaster.h"
 
 #include <algorithm>
 #include <array>
@@ -11,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ORMO::SensorModel::CSM {
 namespace {
@@ -66,6 +68,39 @@ std::string GDALNITFFileReader::WhyNotNITFFile(const char* aPath)
     }
     return "field FHDR at byte offset 0 is " + Detail::Shown(bytes) +
            (bytes.size() < IDENTITY_LENGTH ? ", the file ends at " + std::to_string(bytes.size()) : "");
+}
+
+GDALNITFFileReader::GDALNITFFileReader(std::shared_ptr<const Detail::GdalRaster> aRaster) : m_raster(std::move(aRaster))
+{
+}
+
+std::unique_ptr<GDALNITFFileReader> GDALNITFFileReader::Open(const char* aPath, std::uint32_t aImage,
+                                                             std::string& aReason)
+{
+    bool isDriverMissing = false;
+    auto raster = Detail::GdalRaster::Open(Util::CSMUtilString::Trim(aPath == nullptr ? "" : aPath), aImage,
+                                           isDriverMissing, aReason);
+    return std::unique_ptr<GDALNITFFileReader>(raster == nullptr ? nullptr : new GDALNITFFileReader(std::move(raster)));
+}
+
+std::uint32_t GDALNITFFileReader::GetNumOfRows() const noexcept
+{
+    return m_raster->Shape().rows;
+}
+
+std::uint32_t GDALNITFFileReader::GetNumOfColumns() const noexcept
+{
+    return m_raster->Shape().columns;
+}
+
+std::uint32_t GDALNITFFileReader::GetNumOfBands() const noexcept
+{
+    return m_raster->Shape().bands;
+}
+
+std::optional<GDALNITFRasterBand> GDALNITFFileReader::GetRasterBand(std::uint32_t aBand) const
+{
+    return aBand < GetNumOfBands() ? std::optional(GDALNITFRasterBand(m_raster, aBand)) : std::nullopt;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,13 +1,18 @@
 #pragma once
 
 #include "../foundation/Export.h"
+#include "GDALNITFRasterBand.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
 #include <string>
 
 namespace ORMO::SensorModel::CSM {
 
-/// Tells NITF and NSIF files by their first bytes; never instantiated. Needs no GDAL: only the reading of pixels does.
+/// Tells NITF and NSIF files by their first bytes, which needs no GDAL, and reads the pixels of an image segment
+/// through GDAL, whose library is loaded by itself when a segment is first opened.
 class ORMO_CSM_API GDALNITFFileReader
 {
 public:
@@ -23,8 +28,21 @@ public:
     /// Never waits.
     static std::string WhyNotNITFFile(const char* aPath);
 
+    /// Opens an image segment, counted from 0, of a file. Null, with the reason, when GDAL is not there or cannot read
+    /// or decode it.
+    static std::unique_ptr<GDALNITFFileReader> Open(const char* aPath, std::uint32_t aImage, std::string& aReason);
+
+    std::uint32_t GetNumOfRows() const noexcept;
+    std::uint32_t GetNumOfColumns() const noexcept;
+    /// Bands as GDAL has them: those of the decoded data.
+    std::uint32_t GetNumOfBands() const noexcept;
+    /// A band, counted from 0; it keeps the image open and may outlive the reader.
+    std::optional<GDALNITFRasterBand> GetRasterBand(std::uint32_t aBand) const;
+
 private:
-    GDALNITFFileReader();
+    explicit GDALNITFFileReader(std::shared_ptr<const Detail::GdalRaster> aRaster);
+
+    std::shared_ptr<const Detail::GdalRaster> m_raster;
 };
 
 }  // namespace ORMO::SensorModel::CSM
