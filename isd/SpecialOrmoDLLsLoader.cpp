@@ -4,6 +4,7 @@
 #include "foundation/CSMUtilString.h"
 #include "isd/SpecialOrmoISDsDLL.h"
 
+#include <atomic>
 #include <memory>
 #include <string>
 
@@ -22,76 +23,159 @@ struct Unload
 /// A library that is unloaded again unless its handle is released.
 using Library = std::unique_ptr<void, Unload>;
 
-std::string FileName(const char* aPropertyKey, const char* aDefaultName)
+/// Where a companion library is looked for.
+struct Place
+{
+    const char* library;
+    const char* propertyKey;
+    const char* defaultName;
+};
+
+constexpr Place GOLD_ISD{"SECRET ISD library", CSMCnst::PropertyKey::TALVIK_G_ISD_DLL,
+                         CSMCnst::SPECIAL_GOLD_DLL_ISD_DEFAULT_NM};
+constexpr Place GOLD_MENSURATION{"SECRET mensuration library", CSMCnst::PropertyKey::TALVIK_G_MSP_TOOLKIT,
+                                 CSMCnst::SPECIAL_GOLD_DLL_MS_DEFAULT_NM};
+constexpr Place GOLD_SENSOR_MODELS{"SECRET sensor-models library", CSMCnst::PropertyKey::TALVIK_G_SENSOR_MODELS_SYS_DLL,
+                                   CSMCnst::SPECIAL_GOLD_DLL_SS_DEFAULT_NM};
+constexpr Place RED_ISD{"SCI ISD library", CSMCnst::PropertyKey::TALVIK_R_SENSOR_SYS_DLL,
+                        CSMCnst::SPECIAL_RED_DLL_ISD_DEFAULT_NM};
+
+/// What became of a library: its handle, or why there is none.
+struct Outcome
+{
+    ModuleHandle handle = nullptr;
+    std::string reason;
+};
+
+std::string ConfiguredName(const Place& aPlace)
 {
     const char* value = nullptr;
-    if (CSMSysProperties::GetProperty(aPropertyKey, value)) {
-        std::string name = Util::CSMUtilString::Trim(value);
-        if (!name.empty()) {
-            return name;
-        }
-    }
-    return aDefaultName;
+    return CSMSysProperties::GetProperty(aPlace.propertyKey, value) ? Util::CSMUtilString::Trim(value) : std::string();
 }
 
-/// Loads the library and keeps it if it is accepted. Whatever goes wrong, the answer is null.
-template<typename Accepts>
-ModuleHandle Load(const char* aPropertyKey, const char* aDefaultName, Accepts aAccepts) noexcept
+std::string FileName(const Place& aPlace)
+{
+    std::string name = ConfiguredName(aPlace);
+    return name.empty() ? aPlace.defaultName : name;
+}
+
+/// Loads the library and keeps it if `aFault` finds none in it; an empty text is no fault. Never throws.
+template<typename Fault>
+Outcome Load(const Place& aPlace, Fault aFault) noexcept
 {
     try {
-        ModuleHandle handle = nullptr;
-        const std::string fileName = FileName(aPropertyKey, aDefaultName);
-        if (!CSMUtilWindows::LoadModule(fileName.c_str(), handle)) {
-            return nullptr;
+        Outcome outcome;
+        const std::string fileName = FileName(aPlace);
+        if (!CSMUtilWindows::LoadModule(fileName.c_str(), outcome.handle, outcome.reason)) {
+            return outcome;
         }
-        Library library(handle);
-        return aAccepts(handle) ? library.release() : nullptr;
+        Library library(outcome.handle);
+        outcome.handle = nullptr;
+        outcome.reason = aFault(library.get());
+        if (outcome.reason.empty()) {
+            outcome.handle = library.release();
+        }
+        return outcome;
     } catch (...) {
         // A companion is optional: without memory to look for it the installation works as if it were absent.
-        return nullptr;
+        return {};
     }
 }
 
-bool ExportsEach(ModuleHandle aLibrary, const char* const* aNames, std::size_t aCount) noexcept
+std::string IsdLibraryFault(ModuleHandle aLibrary)
+{
+    const char* const missing = SpecialOrmoISDsDLL::FirstMissingExport(aLibrary);
+    return missing == nullptr ? std::string() : std::string("It does not export ") + missing + ".";
+}
+
+std::string MissingExport(ModuleHandle aLibrary, const char* const* aNames, std::size_t aCount)
 {
     for (std::size_t i = 0; i != aCount; ++i) {
-        if (aNames == nullptr || SpecialOrmoISDsDLL::FindExport(aLibrary, aNames[i]) == nullptr) {
-            return false;
+        if (aNames == nullptr || aNames[i] == nullptr) {
+            return "The list of required exports holds a null name.";
+        }
+        if (SpecialOrmoISDsDLL::FindExport(aLibrary, aNames[i]) == nullptr) {
+            return std::string("It does not export ") + aNames[i] + ".";
         }
     }
-    return true;
+    return {};
+}
+
+const Outcome& GoldIsd() noexcept
+{
+    static const Outcome outcome = Load(GOLD_ISD, IsdLibraryFault);
+    return outcome;
+}
+
+const Outcome& GoldMensuration() noexcept
+{
+    static const Outcome outcome = Load(GOLD_MENSURATION, [](ModuleHandle) { return std::string(); });
+    return outcome;
+}
+
+const Outcome& RedIsd() noexcept
+{
+    static const Outcome outcome = Load(RED_ISD, IsdLibraryFault);
+    return outcome;
+}
+
+/// The decision about the sensor-models library; null before the first call of GetGoldOrmoSSsDLL.
+std::atomic<const Outcome*> g_sensorModels{nullptr};
+
+Outcome SensorModelsSoFar()
+{
+    if (const Outcome* const decided = g_sensorModels.load()) {
+        return *decided;
+    }
+    return Load(GOLD_SENSOR_MODELS, [](ModuleHandle) -> std::string {
+        return "It can be loaded; nobody has asked for it yet with the list of exports that it must have.";
+    });
+}
+
+SpecialOrmoDLLStatus StatusOf(const Place& aPlace, const Outcome& aOutcome)
+{
+    SpecialOrmoDLLStatus status;
+    status.library = aPlace.library;
+    status.propertyKey = aPlace.propertyKey;
+    status.fileName = FileName(aPlace);
+    status.isConfigured = !ConfiguredName(aPlace).empty();
+    status.isInUse = aOutcome.handle != nullptr;
+    status.reason = aOutcome.reason;
+    if (!status.isInUse && status.reason.empty()) {
+        status.reason = "There was not enough memory to look for it.";
+    }
+    return status;
 }
 
 }  // namespace
 
 ModuleHandle SpecialOrmoDLLsLoader::GetGoldOrmoISDsDLL() noexcept
 {
-    static const ModuleHandle library = Load(CSMCnst::PropertyKey::TALVIK_G_ISD_DLL,
-                                             CSMCnst::SPECIAL_GOLD_DLL_ISD_DEFAULT_NM, SpecialOrmoISDsDLL::ExportsAll);
-    return library;
+    return GoldIsd().handle;
 }
 
 ModuleHandle SpecialOrmoDLLsLoader::GetGoldOrmoMSPTkDLL() noexcept
 {
-    static const ModuleHandle library =
-        Load(CSMCnst::PropertyKey::TALVIK_G_MSP_TOOLKIT, CSMCnst::SPECIAL_GOLD_DLL_MS_DEFAULT_NM,
-             [](ModuleHandle) { return true; });
-    return library;
+    return GoldMensuration().handle;
 }
 
 ModuleHandle SpecialOrmoDLLsLoader::GetGoldOrmoSSsDLL(const char**& aRequiredExports, std::size_t aCount) noexcept
 {
-    static const ModuleHandle library =
-        Load(CSMCnst::PropertyKey::TALVIK_G_SENSOR_MODELS_SYS_DLL, CSMCnst::SPECIAL_GOLD_DLL_SS_DEFAULT_NM,
-             [&](ModuleHandle aLibrary) { return ExportsEach(aLibrary, aRequiredExports, aCount); });
-    return library;
+    static const Outcome outcome = Load(
+        GOLD_SENSOR_MODELS, [&](ModuleHandle aLibrary) { return MissingExport(aLibrary, aRequiredExports, aCount); });
+    g_sensorModels = &outcome;
+    return outcome.handle;
 }
 
 ModuleHandle SpecialOrmoDLLsLoader::GetRedOrmoISDsDLL() noexcept
 {
-    static const ModuleHandle library = Load(CSMCnst::PropertyKey::TALVIK_R_SENSOR_SYS_DLL,
-                                             CSMCnst::SPECIAL_RED_DLL_ISD_DEFAULT_NM, SpecialOrmoISDsDLL::ExportsAll);
-    return library;
+    return RedIsd().handle;
+}
+
+std::vector<SpecialOrmoDLLStatus> SpecialOrmoDLLsLoader::GetStatusOfLibraries()
+{
+    return {StatusOf(RED_ISD, RedIsd()), StatusOf(GOLD_ISD, GoldIsd()), StatusOf(GOLD_MENSURATION, GoldMensuration()),
+            StatusOf(GOLD_SENSOR_MODELS, SensorModelsSoFar())};
 }
 
 CSMCnst::ClassType SpecialOrmoDLLsLoader::GetHighestClassificationLevel() noexcept

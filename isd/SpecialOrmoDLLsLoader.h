@@ -5,8 +5,21 @@
 #include "../foundation/Export.h"
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 namespace ORMO::SensorModel::CSM {
+
+/// One companion library as this process finds it.
+struct ORMO_CSM_API SpecialOrmoDLLStatus
+{
+    const char* library = "";      ///< What it is, such as "SCI ISD library".
+    const char* propertyKey = "";  ///< The property that names its file.
+    std::string fileName;          ///< The file looked for.
+    bool isConfigured = false;     ///< Whether the property names it; else it is the default name.
+    bool isInUse = false;
+    std::string reason;  ///< Why it is not in use; empty when it is.
+};
 
 /// Finds and loads the optional companion libraries for classified systems: one of SCI level ("red") and three of
 /// SECRET level ("gold"). The properties name their files (Util::CSMCnst::PropertyKey), else the default names count.
@@ -23,6 +36,10 @@ public:
     /// whole process.
     static ModuleHandle GetGoldOrmoSSsDLL(const char**& aRequiredExports, std::size_t aCount) noexcept;
     static ModuleHandle GetRedOrmoISDsDLL() noexcept;
+
+    /// The four libraries, for a person to see why one is absent. Asks for those that were not looked for yet, except
+    /// for the sensor-models library, whose list of required exports only its user knows.
+    static std::vector<SpecialOrmoDLLStatus> GetStatusOfLibraries();
 
     /// SCI when the red ISD library is loaded, else SECRET when the gold one is, else unclassified.
     static Util::CSMCnst::ClassType GetHighestClassificationLevel() noexcept;

@@ -31,10 +31,17 @@ static_assert(std::size(REQUIRED_EXPORTS) == 13);
 
 }  // namespace
 
+const char* SpecialOrmoISDsDLL::FirstMissingExport(Util::CSMUtilWindows::ModuleHandle aLibrary) noexcept
+{
+    const auto* const missing =
+        std::find_if(std::begin(REQUIRED_EXPORTS), std::end(REQUIRED_EXPORTS),
+                     [aLibrary](const char* aName) { return FindExport(aLibrary, aName) == nullptr; });
+    return missing == std::end(REQUIRED_EXPORTS) ? nullptr : *missing;
+}
+
 bool SpecialOrmoISDsDLL::ExportsAll(Util::CSMUtilWindows::ModuleHandle aLibrary) noexcept
 {
-    return std::all_of(std::begin(REQUIRED_EXPORTS), std::end(REQUIRED_EXPORTS),
-                       [aLibrary](const char* aName) { return FindExport(aLibrary, aName) != nullptr; });
+    return FirstMissingExport(aLibrary) == nullptr;
 }
 
 void* SpecialOrmoISDsDLL::FindExport(Util::CSMUtilWindows::ModuleHandle aLibrary, const char* aName) noexcept

@@ -89,7 +89,10 @@ ORMO_EXPORT void DelCString() {}
 ORMO_EXPORT void DeleteCStringArray() {}
 ORMO_EXPORT void DelSupportedSpecialNitfTREs() {}
 ORMO_EXPORT void GetAllSupportedTreCERETags() {}
-ORMO_EXPORT void GetSupportedSpecialNitfTREs() {}
+ORMO_EXPORT const void* GetSupportedSpecialNitfTREs()
+{
+    return nullptr;
+}
 #if !defined(COMPANION_INCOMPLETE)
 ORMO_EXPORT void IsValidSecurityClassificationMarking() {}
 #endif

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../../foundation/CSMUtilWindows.h"
 #include "../SupportedTRE.h"
 
 #include <array>
@@ -30,10 +31,17 @@ public:
 private:
     SupportedTreNSDE();
 
-    const SupportedTRE* ProviderOf(SupportedTreFactory::Enum aGroup) const noexcept;
+    /// A provider and the library that it comes from, which both live until the process ends.
+    struct Provider
+    {
+        Util::CSMUtilWindows::ModuleHandle library = nullptr;
+        const SupportedTRE* group = nullptr;
+    };
 
-    // Providers live as long as their libraries: until the process ends.
-    std::array<const SupportedTRE*, 2> m_providers{};
+    static Provider ProviderFrom(Util::CSMUtilWindows::ModuleHandle aLibrary) noexcept;
+    const Provider* ProviderOf(SupportedTreFactory::Enum aGroup) const noexcept;
+
+    std::array<Provider, 2> m_providers;
     std::vector<const char*> m_tags;
     std::vector<TRE::Type> m_types;
     TypeMap m_typeMap;
