@@ -29,6 +29,10 @@ ormo_library_settings(ormo_csm)
 target_link_libraries(ormo_csm PRIVATE $<BUILD_INTERFACE:ormo_csm_objects>)
 target_link_libraries(ormo_csm PUBLIC ormo_csmapi PRIVATE ${CMAKE_DL_LIBS})
 target_compile_features(ormo_csm PUBLIC cxx_std_17)
+if(BUILD_SHARED_LIBS)
+    # The plug-in stands in a list of another library, and so do companions' objects in this one: it stays loaded.
+    target_link_options(ormo_csm PRIVATE -Wl,-z,nodelete)
+endif()
 set_target_properties(ormo_csm PROPERTIES EXPORT_NAME csm LINKER_LANGUAGE CXX)
 target_include_directories(
     ormo_csm PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm>)

@@ -6,6 +6,7 @@
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
+#include "isd/detail/TsmViews.h"
 #include "raster/GDALNITFFileReader.h"
 #include "segments/fileheader/detail/FileHeaderReader.h"
 
@@ -38,7 +39,8 @@ ImageSupportDataNITF::ImageSupportDataNITF(const char* aPath, NITFCnst::Version 
     : ImageSupportData(
           aPath, SupportedISD::RasterFormat::NITF,
           aVersion == NITFCnst::NITF_VERSION_NUMBER_20 ? NITFCnst::NITF_VERSION_200 : NITFCnst::NITF_VERSION_210),
-      m_version(aVersion)
+      m_version(aVersion),
+      m_tsmViews(std::make_unique<Detail::TsmViews>())
 {
 }
 

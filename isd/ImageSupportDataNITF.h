@@ -20,7 +20,8 @@ namespace ORMO::SensorModel::CSM {
 
 namespace Detail {
 class ByteSource;
-}
+struct TsmViews;
+}  // namespace Detail
 
 /// The image support data of a NITF or NSIF file: owns the file header and every segment that is read, and answers for
 /// them by kind and index. Made and destroyed by the factories only. What is handed out by pointer lives as long as the
@@ -87,6 +88,36 @@ public:
     /// What was found on reading, one text per fault, in the order of the file. Capped; the last text then says how
     /// many more there were.
     const std::vector<std::string>& GetWarnings() const noexcept { return m_warnings; }
+
+    // The file as ISDs of the CSM API, which sensor-model plug-ins take. TREs of overflow DESs stand behind the own
+    // ones of the header that they belong to; the DESs stay in the list of DESs. Data of a DES that are not all in the
+    // file are left empty.
+
+    /// A NITF_2_0_ISD or NITF_2_1_ISD with all that was read and, when there is a file, a filenameISD. Made when first
+    /// asked for; they live until ClearTSMISDData. False, with null and 0, when memory is short.
+    bool GetAllTsmISDs(const tsm_ISD**& aTsmISDs, std::size_t& aCount) const override;
+    void ClearTSMISDData() noexcept;
+    /// Replaces the content of an ISD of one of the five kinds (SupportedTSMISD). Of the images, a NITF ISD takes the
+    /// one of this number, or all when it is negative. False, with the ISD as it was, for null, for any other class,
+    /// for a NITF ISD of the other version, for a number that is no image's, when memory is short or the file cannot
+    /// be read.
+    bool SetTSMISD(int aImageSegment, tsm_ISD* aTsmISD) const;
+    // Parts of a NITF ISD, under the same terms.
+    bool PopulateTSMISDFileHeaderTREs(tsm_ISD* aTsmISD) const;
+    bool PopulateTSMISDImageSegments(tsm_ISD* aTsmISD, int aImageSegment) const;
+    bool PopulateTSMISDDESs(tsm_ISD* aTsmISD) const;
+    bool PopulateCSMImageObject(::image& aImage, int aImageSegment) const;
+
+    // Sensor models of the plug-ins that are registered with the CSM API, each asked with an ISD of this one image
+    // and, when the file has only one, with the name of the file. The library's own plug-in builds none and is left
+    // out.
+
+    /// False, with nulls and 0, when there is no such image. A model name stands once, with the version of the plug-in
+    /// registered first. The arrays live as long as the object.
+    bool GetSensorModelsOfImageSegment(const char**& aNames, const char**& aVersions, std::size_t& aCount,
+                                       std::size_t aSegment) const override;
+    /// A new model, which the caller deletes, from the first plug-in that builds it; null when none does.
+    TSMSensorModel* GetTSMSensorModel(const char* aSensorModelName, std::size_t aSegment) const override;
 
     const char* Serialize() override;
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
@@ -165,6 +196,7 @@ private:
     std::vector<std::string> m_validationLines;
     std::size_t m_warningCount = 0;
     mutable std::FILE* m_stream = nullptr;
+    std::unique_ptr<Detail::TsmViews> m_tsmViews;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -166,7 +166,7 @@ TEST_F(ImageSupportDataFactoryTest, NoWrapperIsTaken)
     class OtherWrapper : public WrapperCSMISD
     {
     public:
-        OtherWrapper() : WrapperCSMISD(nullptr) {}
+        OtherWrapper() = default;
     };
     const std::string expected =
         "unsupported ERROR: Input WrapperCSMISD object or the input WrapperCSMISD type is currently not supported by "
