@@ -23,6 +23,15 @@ LD_LIBRARY_PATH=$(dirname "$pc") "$work/pc-client" "$sample" | grep -q "^NITF02.
     { echo "FAILED: client through pkg-config"; exit 1; }
 "$work/prefix/bin/ormo-nitf" info "$sample" >/dev/null || { echo "FAILED: the installed program"; exit 1; }
 
+# A CSM host that knows only the folder of plug-ins finds ours there, alone and beside the library itself.
+plugin=$(find "$work/prefix" -path '*/csmplugins/libormo_csm.so')
+if [ -x "$build/tests/csmhost/ormo_host_gnuxx14_loading" ]; then
+    "$build/tests/csmhost/ormo_host_gnuxx14_loading" "$plugin" 2>/dev/null |
+        diff "$source_dir/tests/csmhost/expected.txt" - || { echo "FAILED: the plug-in in its folder"; exit 1; }
+    "$work/prefix/bin/ormo-nitf" plugin "$plugin" | grep -c ORMO_CSM_PLUGIN | grep -qx 1 ||
+        { echo "FAILED: the plug-in is not registered once"; exit 1; }
+fi
+
 include=$work/prefix/include/ormo-csm
 compile_alone() {
     local header
@@ -36,6 +45,6 @@ export -f compile_alone
 export include
 find "$include" -name '*.h' ! -path '*/csmapi/*' -print0 | xargs -0 -P "$(nproc)" -n 8 bash -c 'compile_alone "$@"' _
 
-exported=$(nm -DC --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -c " T ORMO::SensorModel::CSM::Detail::" || true)
+exported=$(nm -DC --defined-only "$plugin" | grep -c " T ORMO::SensorModel::CSM::Detail::" || true)
 [ "$exported" -eq 0 ] || { echo "FAILED: $exported internal functions are exported"; exit 1; }
 echo "1 passed, 0 failed"

@@ -37,6 +37,24 @@ expect 2 "$tool" json "$work"
 expect 2 "$tool" nonsense
 expect 0 "$tool" extract "$sample" text 0 -o "$work/text"
 expect 1 "$tool" extract "$sample" text 9 -o "$work/text9"
+expect 0 "$tool" plugin
+grep -q "ORMO_CSM_PLUGIN" "$work/out" || fail "plugin does not show the plug-in of this library"
+grep -q "reason: .*SCI_ImageSupportDataLib.dll" "$work/out" || fail "plugin does not tell why a companion is absent"
+expect 2 "$tool" plugin "$work/nothing.so"
+expect 1 "$tool" plugin libresolv.so.2
+example=$(dirname "$tool")/../examples
+if [ -x "$example/ormo-example-host" ]; then
+    expect 0 "$example/ormo-example-host" "$sample"
+    grep -q "^ISD NITF2.1" "$work/out" || fail "the example host shows no ISD"
+    expect 1 "$example/ormo-example-host" "$work/nothing.ntf"
+    rpc=$corpus/po_39928_pan_0000000_chip_700_700_noICHIPB.nitf
+    if [ -f "$rpc" ] && [ -f "$example/libormo_example_rpc.so" ]; then
+        expect 0 "$example/ormo-example-host" "$rpc" "$example/libormo_example_rpc.so"
+        grep -q "reference point .* is at line" "$work/out" || fail "the example plug-in makes no model"
+        expect 0 "$tool" plugin "$example/libormo_example_rpc.so"
+        grep -q "EXAMPLE_RPC00B" "$work/out" || fail "plugin does not show a loaded plug-in"
+    fi
+fi
 mkfifo "$work/fifo"
 expect 2 timeout 5 "$tool" info "$work/fifo"
 

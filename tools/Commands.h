@@ -12,6 +12,8 @@ int Json(const std::vector<std::string>& aFiles);
 int Xml(const std::string& aFile, bool aImagesOnly, const std::string& aOut);
 int Validate(const std::vector<std::string>& aFiles, bool aXml);
 int Describe(const std::string& aTag, const std::string& aField);
+/// Loads the libraries first, as a host would load plug-ins.
+int Plugin(const std::vector<std::string>& aLibraries);
 int Extract(const std::string& aFile, const std::string& aKind, unsigned aIndex, const std::string& aOut);
 
 }  // namespace OrmoNitf

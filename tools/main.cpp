@@ -57,6 +57,11 @@ int Run(int aCount, char** aArguments)
     extract->add_option("-o", out, "File to write")->required();
     extract->callback([&] { exitCode = OrmoNitf::Extract(file, kind, index, out); });
 
+    auto* const plugin = app.add_subcommand(
+        "plugin", "The CSM plug-in, the plug-ins registered beside it, companion libraries, classification level");
+    plugin->add_option("LIBRARY", files, "Plug-in libraries to load first");
+    plugin->callback([&] { exitCode = OrmoNitf::Plugin(files); });
+
     try {
         app.parse(aCount, aArguments);
     } catch (const CLI::ParseError& error) {
