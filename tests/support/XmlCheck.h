@@ -48,6 +48,8 @@ inline std::string XmlFault(std::string_view aXml)
             open.pop_back();
             continue;
         }
+        const bool empty = tag.ends_with('/');
+        tag.remove_suffix(empty ? 1 : 0);
         open.emplace_back(tag.substr(0, tag.find(' ')));
         tag.remove_prefix(open.back().size());
         while (!tag.empty()) {  // ' name="value"'
@@ -58,6 +60,9 @@ inline std::string XmlFault(std::string_view aXml)
                 return "attributes of " + open.back() + ": " + std::string(tag);
             }
             tag.remove_prefix(close + 1);
+        }
+        if (empty) {
+            open.pop_back();
         }
     }
     return open.empty() ? "" : "no end of " + open.back();
