@@ -144,7 +144,8 @@ TEST(CGMGraphicPrimitivesTest, CopiesAreEqualAndDifferentElementsAreNot)
         NITFCGMGraphicPrimitive* copy = nullptr;
         ASSERT_TRUE(NITFCGMMetaFile::CloneCGMGraphicalPrimitiveElement(all[i].get(), &copy));
         const Primitive owner(copy);
-        EXPECT_EQ(typeid(*all[i]), typeid(*copy));
+        const NITFCGMGraphicPrimitive& original = *all[i];
+        EXPECT_EQ(typeid(original), typeid(*copy));
         for (std::size_t k = 0; k != all.size(); ++k) {
             EXPECT_EQ(i == k, NITFCGMMetaFile::Equal(*copy, *all[k])) << i << ' ' << k;
             EXPECT_FALSE(NITFCGMMetaFile::Equal(*copy, *others[k])) << i << ' ' << k;
