@@ -1,6 +1,7 @@
 // What decoding the TREs of one image costs: cutting the area and looking up every field by its name.
 
-#include "tre/TREFactory.h"
+#include "tre/TREStore.h"
+#include "tre/detail/TreArea.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -54,9 +55,9 @@ std::string AreaOfOneImage()
 
 std::size_t Decode(const std::string& aArea, TREStore& aStore)
 {
-    std::string warnings;
-    TREFactory::ExtractTREs(aArea.data(), aArea.size(), aStore, false, false, warnings,
-                            Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN, {"IXSHD", 0, TRE::TRE_TYPE_CONTROLLED_EXTENSION});
+    Detail::FindingList findings;
+    Detail::ExtractTREs(aArea, aStore, {}, Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN,
+                        {"IXSHD", 0, TRE::TRE_TYPE_CONTROLLED_EXTENSION}, findings);
     std::size_t fields = 0;
     for (const TRE* const tre : aStore.InOrder()) {
         fields += tre->GetNumOfFields();

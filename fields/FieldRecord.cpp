@@ -3,6 +3,7 @@
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "foundation/CSMMsg.h"
+#include "foundation/CSMUtilGeneric.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 
@@ -154,6 +155,18 @@ const char* FaultSentence(const FieldRow& aRow, Verdict aVerdict) noexcept
     }
     return aRow.IsRequired() ? CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE
                              : CSMMsg::Error::INVALID_CONDITIONALLY_REQUIRED_FIELD_VALUE;
+}
+
+void AppendProblemLines(const FindingList& aFindings, std::string& aText)
+{
+    for (std::size_t i = 0; i != aFindings.KeptCount(); ++i) {
+        const Finding& finding = aFindings.Kept(i);
+        Util::CSMUtilGeneric::ConstructMessage(true, (finding.sentence + ' ').c_str(), finding.owner.c_str(),
+                                               finding.field.c_str(), aText);
+    }
+    if (aFindings.LeftOut() != 0) {
+        aText += '\n' + aFindings.LeftOutLine();
+    }
 }
 
 std::string AllowedText(const FieldRow& aRow)

@@ -104,6 +104,9 @@ private:
 /// blank at its end.
 [[nodiscard]] const char* FaultSentence(const FieldRow& aRow, Verdict aVerdict) noexcept;
 
+/// Adds one line for each finding, as CSMUtilGeneric::ConstructMessage joins them: sentence, owner and field.
+void AppendProblemLines(const FindingList& aFindings, std::string& aText);
+
 /// What the rule of a row allows, as a person reads it: "01..99, blank"; empty when everything is.
 [[nodiscard]] std::string AllowedText(const FieldRow& aRow);
 

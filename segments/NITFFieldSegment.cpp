@@ -12,7 +12,7 @@
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SegmentContents.h"
 #include "segments/detail/SegmentWords.h"
-#include "tre/TREFactory.h"
+#include "tre/detail/TreArea.h"
 
 #include <limits>
 #include <utility>
@@ -174,12 +174,11 @@ int NITFFieldSegment::ReadTREs(const char* aFieldName, bool aSpecificOnly, bool 
         return 0;
     }
     const std::string_view area = fields.Value(*entry);
-    std::string warnings;
-    const int count =
-        TREFactory::ExtractTREs(area.data(), area.size(), m_contents->tres, aSpecificOnly, aValidate, warnings,
-                                aByteOrder, {aFieldName, m_fileOffset + fields.Position(*entry), aUnknownType});
-    if (!warnings.empty()) {
-        AddWarning(warnings);
+    Detail::FindingList findings;
+    const int count = Detail::ExtractTREs(area, m_contents->tres, {aSpecificOnly, aValidate}, aByteOrder,
+                                          {aFieldName, m_fileOffset + fields.Position(*entry), aUnknownType}, findings);
+    if (!findings.IsEmpty()) {
+        AddWarning(findings.Blocks(false));
     }
     return count;
 }

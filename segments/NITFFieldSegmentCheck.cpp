@@ -7,6 +7,7 @@
 #include "segments/detail/SecurityCheck.h"
 #include "segments/detail/SegmentContents.h"
 #include "segments/detail/SegmentWords.h"
+#include "tre/detail/TreMaker.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -15,6 +16,18 @@ namespace {
 std::string Place(std::uint64_t aOffset, std::string_view aValue)
 {
     return "[byte offset " + std::to_string(aOffset) + ": value " + Detail::Shown(aValue) + "]";
+}
+
+void AddProblems(const Detail::FindingList& aProblems, Detail::Findings& aFindings)
+{
+    for (std::size_t i = 0; i != aProblems.KeptCount(); ++i) {
+        const Finding& problem = aProblems.Kept(i);
+        if (problem.level == Finding::Level::Warning) {
+            aFindings.AddWarning(problem.sentence.c_str(), problem.owner, problem.field, {});
+        } else {
+            aFindings.AddError(problem.sentence.c_str(), problem.owner, problem.field, {});
+        }
+    }
 }
 
 }  // namespace
@@ -42,9 +55,9 @@ void NITFFieldSegment::Validate(Detail::Findings& aFindings) const
     }
     Detail::CheckSecurity(fields, owner, FileOffset(), aFindings);
     for (const TRE* const tre : QueriedTREs().InOrder()) {
-        std::string lines;
-        tre->ValidateFieldValues(lines);
-        aFindings.AddErrors(lines);
+        Detail::FindingList problems;
+        Detail::TreMaker::Check(*tre, {}, problems);
+        AddProblems(problems, aFindings);
     }
 }
 

@@ -1,14 +1,21 @@
 #include "tre/RawNITFMetadata.h"
 
+#include "foundation/detail/Lazy.h"
 #include "tre/detail/RawNITFMetadataArrays.h"
 
 #include <algorithm>
+#include <memory>
 #include <new>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
-using Arrays = Detail::RawNITFMetadataArrays;
+using Arrays = RawNITFMetadata::Arrays;
+
+struct RawNITFMetadata::State
+{
+    Detail::Lazy<std::unique_ptr<const Arrays>> arrays;
+};
 
 namespace {
 
@@ -33,7 +40,7 @@ bool HandOutPair(const Arrays* aArrays, std::size_t Arrays::*aCountMember,
 }  // namespace
 
 RawNITFMetadata::RawNITFMetadata(NITFCnst::NITFMetadataType aTypeCode, int aVersionNumber)
-    : m_typeCode(aTypeCode), m_versionNumber(aVersionNumber)
+    : m_typeCode(aTypeCode), m_versionNumber(aVersionNumber), m_state(std::make_unique<State>())
 {
 }
 
@@ -42,19 +49,22 @@ RawNITFMetadata::RawNITFMetadata(const RawNITFMetadata& aOther)
       m_versionNumber(aOther.m_versionNumber),
       m_noMetadata(aOther.m_noMetadata),
       m_rawData(aOther.m_rawData),
-      m_rawDataDescription(aOther.m_rawDataDescription)
+      m_rawDataDescription(aOther.m_rawDataDescription),
+      m_state(std::make_unique<State>())
 {
 }
 
 RawNITFMetadata& RawNITFMetadata::operator=(const RawNITFMetadata& aOther)
 {
     if (this != &aOther) {
-        CleanMetadataArrays();
+        std::string data = aOther.m_rawData;
+        std::string description = aOther.m_rawDataDescription;
         m_typeCode = aOther.m_typeCode;
         m_versionNumber = aOther.m_versionNumber;
         m_noMetadata = aOther.m_noMetadata;
-        m_rawData = aOther.m_rawData;
-        m_rawDataDescription = aOther.m_rawDataDescription;
+        m_rawData.swap(data);
+        m_rawDataDescription.swap(description);
+        CleanMetadataArrays();
     }
     return *this;
 }
@@ -78,7 +88,7 @@ const char* RawNITFMetadata::GetRawDataStream(std::size_t& aLength) const noexce
     return m_rawData.empty() ? nullptr : m_rawData.c_str();
 }
 
-bool RawNITFMetadata::FillSource(Detail::RawNITFMetadataSource& aSource) const noexcept
+bool RawNITFMetadata::FillSource(Source& aSource) const noexcept
 {
     try {
         return !m_noMetadata && GetMatadata(&aSource.dataType, &aSource.editability, &aSource.descriptions,
@@ -96,29 +106,30 @@ bool RawNITFMetadata::InitMetadataArrays() const noexcept
 
 void RawNITFMetadata::CleanMetadataArrays() const noexcept
 {
-    const std::lock_guard lock(m_guard);
-    m_arrays.reset();
+    m_state->arrays.Reset();
 }
 
 const Arrays* RawNITFMetadata::BuiltArrays() const noexcept
 {
-    const std::lock_guard lock(m_guard);
     if (m_noMetadata) {
-        m_arrays.reset();
-    } else if (m_arrays == nullptr) {
-        try {
-            Detail::RawNITFMetadataSource source;
-            m_arrays = FillSource(source) ? Arrays::Build(source) : nullptr;
-        } catch (const std::bad_alloc&) {
-            m_arrays.reset();  // as when an array cannot be had
-        }
+        return nullptr;
     }
-    return m_arrays.get();
+    if (const auto* const built = m_state->arrays.Made()) {
+        return built->get();
+    }
+    try {
+        Source source;
+        std::unique_ptr<const Arrays> arrays = FillSource(source) ? Arrays::Build(source) : nullptr;
+        // A failure is not kept, so that the next query starts afresh.
+        return arrays == nullptr ? nullptr : m_state->arrays.Get([&arrays] { return std::move(arrays); }).get();
+    } catch (const std::bad_alloc&) {
+        return nullptr;  // as when an array cannot be had
+    }
 }
 
 const char* RawNITFMetadata::GetDataType() const noexcept
 {
-    Detail::RawNITFMetadataSource source;
+    Source source;
     return FillSource(source) && source.dataType != nullptr ? source.dataType : "";
 }
 

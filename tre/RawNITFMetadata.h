@@ -6,16 +6,10 @@
 #include <cstddef>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM {
-
-namespace Detail {
-struct RawNITFMetadataArrays;
-struct RawNITFMetadataSource;
-}  // namespace Detail
 
 /// Lists every field of a header, subheader or TRE, for a host that does not know its structure.
 ///
@@ -30,6 +24,10 @@ public:
     using EditabilityMap = std::map<std::string, bool>;
     using SizeMap = std::map<std::string, int>;
     using TextMap = std::map<std::string, std::string>;
+
+    /// All arrays, and what they are made of; known to the library only.
+    struct Arrays;
+    struct Source;
 
     virtual ~RawNITFMetadata();
 
@@ -96,16 +94,17 @@ protected:
     void CleanMetadataArrays() const noexcept;
 
 private:
-    const Detail::RawNITFMetadataArrays* BuiltArrays() const noexcept;
-    bool FillSource(Detail::RawNITFMetadataSource& aSource) const noexcept;
+    struct State;
+
+    const Arrays* BuiltArrays() const noexcept;
+    bool FillSource(Source& aSource) const noexcept;
 
     NITFCnst::NITFMetadataType m_typeCode;
     int m_versionNumber;
     bool m_noMetadata = false;
     std::string m_rawData;
     std::string m_rawDataDescription;
-    mutable std::mutex m_guard;                                       // of the arrays
-    mutable std::unique_ptr<Detail::RawNITFMetadataArrays> m_arrays;  // null until built
+    std::unique_ptr<State> m_state;  // never null
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -4,6 +4,7 @@
 #include "foundation/detail/Ascii.h"
 #include "nitf/NITFCnst.h"
 #include "tre/detail/TreMaker.h"
+#include "tre/detail/TreParts.h"
 #include "tre/groups/SupportedTreGroups.h"
 #include "tre/groups/SupportedTreNSDE.h"
 
@@ -88,6 +89,13 @@ const ListedTag* FindListed(const char* aTag)
     return it != tags.end() && it->tag == tag ? &*it : nullptr;
 }
 
+/// The group that releases and copies a TRE: who made the object, whatever was assigned to it.
+SupportedTreFactory::Enum MakerOf(const TRE& aTre) noexcept
+{
+    const TRE::Parts& parts = TRE::Parts::Of(aTre);
+    return parts.maker == SupportedTreFactory::UNKNOWN ? parts.group : parts.maker;
+}
+
 /// The first group that knows the tag, or null.
 const SupportedTRE* GroupThatKnows(const char* aTag)
 {
@@ -100,6 +108,23 @@ const SupportedTRE* GroupThatKnows(const char* aTag)
 }
 
 }  // namespace
+
+Detail::KnownTag Detail::FindKnown(const char* aTag)
+{
+    KnownTag known;
+    const ListedTag* const listed = FindListed(aTag);
+    if (listed != nullptr) {
+        known.entry = listed->entry;
+        known.group = listed->group->GetCode();
+    }
+    const SupportedTreNSDE& special = SupportedTreNSDE::Instance();
+    SupportedTreFactory::Enum code = SupportedTreFactory::UNKNOWN;
+    if ((listed == nullptr || listed->special) && special.AbleToCreateTRE(aTag, &code)) {
+        known.special = &special;
+        known.group = code;
+    }
+    return known;
+}
 
 const SupportedTREs& SupportedTREs::Instance()
 {
@@ -156,7 +181,7 @@ bool SupportedTREs::AbleToCreateTRE(const char* aTag, SupportedTreFactory::Enum*
 
 bool SupportedTREs::CloneTRE(const TRE& aSource, TRE** aCopy) const
 {
-    const SupportedTRE* const group = GroupOf(aSource.GetSupportedTREFactoryCode());
+    const SupportedTRE* const group = GroupOf(MakerOf(aSource));
     if (group == nullptr || aCopy == nullptr) {
         return false;
     }
@@ -182,7 +207,7 @@ bool SupportedTREs::Destroy(TRE** aTre) const
     if (aTre == nullptr || *aTre == nullptr) {
         return false;
     }
-    const SupportedTRE* const group = GroupOf((*aTre)->GetSupportedTREFactoryCode());
+    const SupportedTRE* const group = GroupOf(MakerOf(**aTre));
     return group != nullptr && group->Destroy(aTre);
 }
 

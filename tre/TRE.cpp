@@ -1,125 +1,47 @@
 #include "tre/TRE.h"
 
-#include "fields/FieldStore.h"
-#include "fields/FieldValue.h"
-#include "fields/FieldWalk.h"
-#include "fields/MessageText.h"
+#include "fields/ByteCursor.h"
+#include "fields/FieldRecord.h"
 #include "fields/Number.h"
-#include "fields/ValueRule.h"
 #include "foundation/CSMExceptions.h"
-#include "foundation/CSMMsg.h"
-#include "foundation/CSMUtilGeneric.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
+#include "foundation/detail/HandOut.h"
 #include "tre/SupportedTREs.h"
-#include "tre/detail/TreLayout.h"
-#include "tre/detail/TreViews.h"
+#include "tre/detail/TreFault.h"
+#include "tre/detail/TreMaker.h"
+#include "tre/detail/TreParts.h"
 
 #include <algorithm>
-#include <limits>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
 using Detail::FieldEntry;
-using Detail::FieldRow;
-using Detail::FieldStore;
-using Detail::Quoted;
+using Detail::FieldRecord;
+using Detail::ViewOf;
 
 namespace {
 
-constexpr std::size_t TAG_WIDTH = 6;
-constexpr std::size_t LENGTH_WIDTH = 5;
-constexpr std::size_t HEADER_WIDTH = TAG_WIDTH + LENGTH_WIDTH;
-
-std::string TrimmedTag(const char* aTag)
-{
-    std::string tag(aTag == nullptr ? "" : aTag);
-    tag.erase(tag.find_last_not_of(' ') + 1);
-    return tag;
-}
-
-const FieldEntry* FindField(const FieldStore* aFields, const char* aName)
-{
-    if (aFields == nullptr || aName == nullptr) {
-        return nullptr;
-    }
-    return aFields->Find(Detail::Trimmed(aName));
-}
-
-/// What a walk that stopped has to say: which field, its bytes, what it wanted and what was there.
-std::string FaultText(const char* aTag, const FieldStore& aFields, const Detail::WalkResult& aResult)
-{
-    std::string text = " Field ";
-    std::string name;
-    aFields.Table().AppendName(aResult.row, aResult.turns, name);
-    text += Quoted(name);
-    if (aResult.fault != Detail::Fault::Short) {
-        text += " = " + Detail::Shown(aResult.value);
-    }
-    switch (aResult.fault) {
-        case Detail::Fault::Short:
-            text += " needs " + std::to_string(aResult.wanted) + " byte(s)";
-            break;
-        case Detail::Fault::CountBeyondData:
-            text += " promises at least " + std::to_string(aResult.wanted) + " byte(s)";
-            break;
-        case Detail::Fault::LengthTooSmall:
-            text += " must be at least " + std::to_string(aResult.wanted);
-            break;
-        default:
-            text += " is not a number";
-            break;
-    }
-    text += ", at data offset " + std::to_string(aResult.offset) + "; " + std::to_string(aResult.available) +
-            " byte(s) were left.";
-    const FieldRow& row = aFields.Table().Row(aResult.row);
-    const bool blank = aResult.fault == Detail::Fault::NotANumber && Detail::Trimmed(aResult.value).empty();
-    const bool absent = aResult.fault == Detail::Fault::Short && aResult.available == 0;
-    if (row.IsField() && row.IsRequired() && (blank || absent)) {
-        Util::CSMUtilGeneric::ConstructMessage(true, (std::string(CSMMsg::Error::MISSING_REQUIRED_FIELD) + ' ').c_str(),
-                                               aTag, name.c_str(), text);
-    }
-    return text;
-}
-
-[[noreturn]] void ThrowNotExtracted(const char* aTag, std::size_t aExpected, std::size_t aExtracted,
-                                    const std::string& aDetail)
-{
-    std::string message = "ERROR: Failed to extracted all the TRE fields from the input CEDATA/REDATA data stream";
-    if (aTag != nullptr && *aTag != '\0') {
-        message += " for TRE " + Quoted(aTag);
-    }
-    message += " [expected = " + std::to_string(aExpected) + ", extracted = " + std::to_string(aExtracted) + "].";
-    message += aDetail;
-    throw InitializationException(message.c_str(), "TRE::PopulateNITFTreFieldsMap");
-}
+constexpr std::size_t TAG_WIDTH = TRE::Parts::TAG_WIDTH;
+constexpr std::size_t LENGTH_WIDTH = TRE::Parts::LENGTH_WIDTH;
+constexpr std::size_t HEADER_WIDTH = TRE::Parts::HEADER_WIDTH;
 
 }  // namespace
 
-TRE::TRE(const Detail::TreLayout& aLayout, const char* aData, std::size_t aLength, Type aType,
-         Util::CSMCnst::ByteOrder aByteOrder)
-    : m_tag(aLayout.tag), m_type(aType), m_byteOrder(aByteOrder), m_layout(&aLayout)
-{
-    CheckCEREDATALength(aLength, aLayout.tag, aLayout.length != 0 ? aLayout.length : std::max<std::size_t>(aLength, 1),
-                        aLayout.length == 0);
-    m_text = Compose(aData, aLength);
-    TRE::InitNITFTreFieldsMap();
-}
+TRE::TRE(Parts& aParts) noexcept : m_parts(&aParts) {}
 
-TRE::TRE(const char* aTag, const char* aData, std::size_t aLength, Type aType) : m_tag(TrimmedTag(aTag)), m_type(aType)
+TRE::TRE(const char* aTag, const char* aData, std::size_t aLength, Type aType)
 {
-    if (m_tag.empty() || (aData == nullptr && aLength != 0)) {
+    if (aData == nullptr && aLength != 0) {
         throw std::invalid_argument("ERROR: Invalid/NULL input argument(s).");
     }
-    m_text = Compose(aData, aLength);
+    m_parts = Parts::New(ViewOf(aTag), {}, {aData, aLength}, aType);
 }
 
-TRE::TRE(const TRE& aOther)
-{
-    TRE::CloneObj(aOther);
-}
+TRE::TRE(const TRE& aOther) : m_parts(aOther.m_parts->Copy()) {}
 
 TRE::~TRE() = default;
 
@@ -133,7 +55,8 @@ TRE& TRE::operator=(const TRE& aOther)
 
 bool TRE::operator==(const TRE& aOther) const
 {
-    return m_tag == aOther.m_tag && m_type == aOther.m_type && m_layout == aOther.m_layout && m_text == aOther.m_text;
+    return ViewOf(m_parts->tag) == ViewOf(aOther.m_parts->tag) && m_parts->type == aOther.m_parts->type &&
+           m_parts->layout == aOther.m_parts->layout && m_parts->Data() == aOther.m_parts->Data();
 }
 
 bool TRE::operator!=(const TRE& aOther) const
@@ -143,33 +66,16 @@ bool TRE::operator!=(const TRE& aOther) const
 
 bool TRE::CloneObj(const TRE& aOther)
 {
-    m_tag = aOther.m_tag;
-    m_type = aOther.m_type;
-    m_tagCode = aOther.m_tagCode;
-    m_groupCode = aOther.m_groupCode;
-    m_byteOrder = aOther.m_byteOrder;
-    m_layout = aOther.m_layout;
-    m_text = aOther.m_text;
-    m_fields = aOther.m_fields == nullptr ? nullptr : std::make_unique<FieldStore>(*aOther.m_fields);
-    m_area = aOther.m_area;
-    m_fileOffset = aOther.m_fileOffset;
-    m_views.reset();
+    std::unique_ptr<Parts> copy = aOther.m_parts->Copy();
+    copy->maker = m_parts->maker;
+    m_parts = std::move(copy);
     return true;
 }
 
 void TRE::Swap(TRE& aOther) noexcept
 {
-    std::swap(m_tag, aOther.m_tag);
-    std::swap(m_type, aOther.m_type);
-    std::swap(m_tagCode, aOther.m_tagCode);
-    std::swap(m_groupCode, aOther.m_groupCode);
-    std::swap(m_byteOrder, aOther.m_byteOrder);
-    std::swap(m_layout, aOther.m_layout);
-    std::swap(m_text, aOther.m_text);
-    std::swap(m_fields, aOther.m_fields);
-    std::swap(m_area, aOther.m_area);
-    std::swap(m_fileOffset, aOther.m_fileOffset);
-    std::swap(m_views, aOther.m_views);
+    std::swap(m_parts, aOther.m_parts);
+    std::swap(m_parts->maker, aOther.m_parts->maker);
 }
 
 void TRE::CheckCEREDATALength(std::size_t aLength, const char* aTag, std::size_t aExpected, bool aMayDiffer)
@@ -181,52 +87,23 @@ void TRE::CheckCEREDATALength(std::size_t aLength, const char* aTag, std::size_t
     if (aMayDiffer || aLength == aExpected) {
         return;
     }
-    std::string message = "ERROR: Expected length of the CEDATA/REDATA ";
-    if (aTag != nullptr && *aTag != '\0') {
-        message += "of TRE " + Quoted(aTag) + ' ';
-    }
-    message += "is " + std::to_string(aExpected) + " byte(s). Input CEDATA/REDATA length = " + std::to_string(aLength) +
-               " byte(s).";
-    throw std::invalid_argument(message);
-}
-
-std::string TRE::Compose(const char* aData, std::size_t aLength) const
-{
-    std::string text;
-    text.reserve(HEADER_WIDTH + aLength);
-    text = m_tag;
-    if (text.size() < TAG_WIDTH) {
-        text.append(TAG_WIDTH - text.size(), ' ');
-    }
-    const std::string length = std::to_string(aLength);
-    if (length.size() < LENGTH_WIDTH) {
-        text.append(LENGTH_WIDTH - length.size(), '0');
-    }
-    text += length;
-    if (aLength != 0) {
-        text.append(aData, aLength);
-    }
-    return text;
+    Detail::TreFault fault;
+    fault.kind = Detail::TreFault::Kind::Length;
+    fault.expected = aExpected;
+    fault.found = aLength;
+    fault.Throw(ViewOf(aTag));
 }
 
 void TRE::InitNITFTreFieldsMap()
 {
-    if (m_layout == nullptr) {
+    if (m_parts->layout == nullptr) {
         return;
     }
-    std::size_t length = 0;
-    const char* const data = GetRawTREDataString(length);
-    auto fields = std::make_unique<FieldStore>(m_layout->table);
-    const Detail::WalkResult result = Detail::FieldWalk::Read({data, length}, *fields);
-    if (!result.IsGood()) {
-        const std::size_t extracted = fields->Entries().size();
-        ThrowNotExtracted(m_layout->tag, std::max(m_layout->table.FieldCount(), extracted + 1), extracted,
-                          FaultText(m_layout->tag, *fields, result));
+    const Detail::TreFault fault = Detail::TreMaker::Fit(*m_parts, *m_parts->layout, m_parts->fields->Store().Order());
+    if (!fault.IsGood()) {
+        fault.Throw(m_parts->tag);
     }
-    if (result.consumed != length) {
-        CheckCEREDATALength(length, m_layout->tag, static_cast<std::size_t>(result.consumed), false);
-    }
-    m_fields = std::move(fields);
+    m_parts->views.Reset();
 }
 
 void TRE::PopulateNITFTreFieldsMap(const char* aTag, const std::string* aData, const std::vector<const char*>& aNames,
@@ -257,25 +134,61 @@ void TRE::PopulateNITFTreFieldsMap(const char* aTag, const std::string* aData, c
     if (extracted < expected) {
         aWidthMap.clear();
         aValueMap.clear();
-        ThrowNotExtracted(aTag, expected, extracted, {});
+        throw InitializationException(Detail::NotExtracted(ViewOf(aTag), expected, extracted).c_str(),
+                                      "TRE::PopulateNITFTreFieldsMap");
     }
+}
+
+const char* TRE::GetTag() const noexcept
+{
+    return m_parts->tag;
+}
+
+TRE::Type TRE::GetTREType() const noexcept
+{
+    return m_parts->type;
+}
+
+SupportedTreFactory::Enum TRE::GetSupportedTREFactoryCode() const noexcept
+{
+    return m_parts->group;
+}
+
+std::int32_t TRE::GetUniqueExtensionTypeID() const noexcept
+{
+    return m_parts->code;
+}
+
+bool TRE::IsGenericTRE() const noexcept
+{
+    return m_parts->layout == nullptr;
+}
+
+const char* TRE::GetExtensionArea() const noexcept
+{
+    return m_parts->area;
+}
+
+std::uint64_t TRE::GetFileOffset() const noexcept
+{
+    return m_parts->offset;
 }
 
 std::size_t TRE::GetLengthOfDataField() const noexcept
 {
-    return m_text.size() < HEADER_WIDTH ? 0 : m_text.size() - HEADER_WIDTH;
+    return m_parts->Data().size();
 }
 
 const char* TRE::GetRawTREDataString(std::size_t& aLength) const noexcept
 {
-    aLength = GetLengthOfDataField();
-    return m_text.size() < HEADER_WIDTH ? m_text.c_str() : m_text.data() + HEADER_WIDTH;
+    const std::string_view data = m_parts->Data();
+    aLength = data.size();
+    return data.data();
 }
 
 bool TRE::GetFieldAsBinary(const char* aName, const char*& aValue, std::size_t& aLength) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    if (entry == nullptr || !m_fields->Row(*entry).IsBinary()) {
+    if (!IsBinaryField(aName)) {
         aValue = nullptr;
         aLength = 0;
         return false;
@@ -285,17 +198,14 @@ bool TRE::GetFieldAsBinary(const char* aName, const char*& aValue, std::size_t& 
 
 bool TRE::GetFieldAsString(const char* aName, const char*& aValue, std::size_t& aLength) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    aValue = entry == nullptr ? nullptr : m_fields->Value(*entry).data();
-    aLength = entry == nullptr ? 0 : entry->length;
-    return entry != nullptr;
+    aValue = nullptr;
+    aLength = 0;
+    return m_parts->fields != nullptr && m_parts->fields->Text(ViewOf(aName), aValue, aLength);
 }
 
 bool TRE::GetFieldAsBool(const char* aName, bool& aValue) const
 {
-    const char* text = nullptr;
-    std::size_t length = 0;
-    return GetFieldAsString(aName, text, length) && Util::CSMUtilString::ToBool(text, aValue);
+    return m_parts->fields != nullptr && m_parts->fields->AsBool(ViewOf(aName), aValue);
 }
 
 bool TRE::GetFieldAsDouble(const char* aName, double& aValue) const
@@ -315,44 +225,37 @@ bool TRE::GetFieldAsUInt64(const char* aName, std::uint64_t& aValue) const
 
 bool TRE::GetFieldAsLong(const char* aName, long& aValue) const
 {
-    std::int64_t value = 0;
-    if (!GetIntegerField(aName, value) || value < std::numeric_limits<std::int32_t>::min() ||
-        value > std::numeric_limits<std::int32_t>::max()) {
+    std::int32_t value = 0;
+    if (m_parts->fields == nullptr || !m_parts->fields->As(ViewOf(aName), value)) {
         return false;
     }
-    aValue = static_cast<long>(value);
+    aValue = value;
     return true;
 }
 
 bool TRE::GetFieldAsUnsignedLong(const char* aName, unsigned long& aValue) const
 {
-    std::uint64_t value = 0;
-    if (!GetUnsignedIntegerField(aName, value) || value > std::numeric_limits<std::uint32_t>::max()) {
+    std::uint32_t value = 0;
+    if (m_parts->fields == nullptr || !m_parts->fields->As(ViewOf(aName), value)) {
         return false;
     }
-    aValue = static_cast<unsigned long>(value);
+    aValue = value;
     return true;
 }
 
 bool TRE::GetDoubleField(const char* aName, double& aValue) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    return entry != nullptr &&
-           Detail::ValueAsDouble(m_fields->Row(*entry), m_fields->Value(*entry), GetBinaryDataByteOrder(), aValue);
+    return m_parts->fields != nullptr && m_parts->fields->As(ViewOf(aName), aValue);
 }
 
 bool TRE::GetIntegerField(const char* aName, std::int64_t& aValue) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    return entry != nullptr &&
-           Detail::ValueAsInt64(m_fields->Row(*entry), m_fields->Value(*entry), GetBinaryDataByteOrder(), aValue);
+    return m_parts->fields != nullptr && m_parts->fields->As(ViewOf(aName), aValue);
 }
 
 bool TRE::GetUnsignedIntegerField(const char* aName, std::uint64_t& aValue) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    return entry != nullptr &&
-           Detail::ValueAsUInt64(m_fields->Row(*entry), m_fields->Value(*entry), GetBinaryDataByteOrder(), aValue);
+    return m_parts->fields != nullptr && m_parts->fields->As(ViewOf(aName), aValue);
 }
 
 const char* TRE::GetTREField(const char* aName) const
@@ -365,91 +268,60 @@ const char* TRE::GetTREField(const char* aName) const
 
 bool TRE::ContainsBinaryFields() const
 {
-    if (m_fields == nullptr) {
+    if (m_parts->fields == nullptr) {
         return false;
     }
-    const auto entries = m_fields->Entries();
-    return std::any_of(entries.begin(), entries.end(),
-                       [this](const FieldEntry& aEntry) { return m_fields->Row(aEntry).IsBinary(); });
+    const Detail::FieldStore& store = m_parts->fields->Store();
+    return std::any_of(store.Entries().begin(), store.Entries().end(),
+                       [&store](const FieldEntry& aEntry) { return store.Row(aEntry).IsBinary(); });
 }
 
 bool TRE::IsBinaryField(const char* aName) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    return entry != nullptr && m_fields->Row(*entry).IsBinary();
+    return m_parts->fields != nullptr && m_parts->fields->IsBinary(ViewOf(aName));
 }
 
 bool TRE::IsFieldEditable(const char* aName) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    return entry != nullptr && m_fields->Table().IsEditable(entry->row);
+    return m_parts->fields != nullptr && m_parts->fields->IsEditable(ViewOf(aName));
 }
 
 int TRE::IsFieldValueInRange(const char* aName, const char* aValue) const
 {
-    const FieldEntry* const entry = FindField(m_fields.get(), aName);
-    if (entry == nullptr || aValue == nullptr) {
-        return -1;
-    }
-    return Detail::CheckValue(m_fields->Row(*entry), aValue) == Detail::Verdict::Good ? 1 : 0;
+    return m_parts->fields == nullptr ? -1 : m_parts->fields->Allows(ViewOf(aName), aValue);
 }
 
 int TRE::ValidateFieldValues(std::string& aErrors) const
 {
-    if (m_fields == nullptr) {
-        return 0;
-    }
-    int count = 0;
-    for (const FieldEntry& entry : m_fields->Entries()) {
-        const FieldRow& row = m_fields->Row(entry);
-        const Detail::Verdict verdict = Detail::CheckValue(row, m_fields->Value(entry));
-        if (verdict == Detail::Verdict::Good) {
-            continue;
-        }
-        const bool blank = verdict == Detail::Verdict::Blank;
-        const bool required = row.IsRequired();
-        const char* const sentence = blank      ? (required ? CSMMsg::Error::MISSING_REQUIRED_FIELD
-                                                            : CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD)
-                                     : required ? CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE
-                                                : CSMMsg::Error::INVALID_CONDITIONALLY_REQUIRED_FIELD_VALUE;
-        Util::CSMUtilGeneric::ConstructMessage(true, (std::string(sentence) + ' ').c_str(), m_tag.c_str(),
-                                               m_fields->Name(entry).c_str(), aErrors);
-        ++count;
-    }
-    return count;
+    Detail::FindingList problems;
+    Detail::TreMaker::Check(*this, {}, problems);
+    Detail::AppendProblemLines(problems, aErrors);
+    return static_cast<int>(problems.Errors());
 }
 
 Util::CSMCnst::ByteOrder TRE::GetBinaryDataByteOrder() const
 {
-    return m_byteOrder;
+    return m_parts->fields == nullptr ? Util::CSMCnst::ByteOrder{} : m_parts->fields->Store().Order();
 }
 
 std::size_t TRE::GetNumOfFields() const noexcept
 {
-    return m_fields == nullptr ? 0 : m_fields->Entries().size();
+    return m_parts->fields == nullptr ? 0 : m_parts->fields->Store().Entries().size();
 }
 
 bool TRE::GetFieldAt(std::size_t aIndex, std::string& aName, const char*& aValue, std::size_t& aLength) const
 {
-    if (aIndex >= GetNumOfFields()) {
-        return false;
-    }
-    const FieldEntry& entry = m_fields->Entries()[aIndex];
-    aName.clear();
-    m_fields->AppendName(entry, aName);
-    aValue = m_fields->Value(entry).data();
-    aLength = entry.length;
-    return true;
+    return m_parts->fields != nullptr && m_parts->fields->At(aIndex, aName, aValue, aLength);
 }
 
 const char* TRE::GetTREName() const
 {
-    return m_layout == nullptr ? Util::CSMCnst::CLASS_UNKNOWN : m_layout->name;
+    return m_parts->name == nullptr ? Util::CSMCnst::CLASS_UNKNOWN : m_parts->name;
 }
 
 const char* TRE::GetTRERegisterGroup() const
 {
-    return SupportedTREs::GetGroupDescription(m_tag.c_str());
+    return SupportedTREs::GetGroupDescription(m_parts->tag);
 }
 
 const char* TRE::GetTRETypeString(Type aType) noexcept
@@ -500,8 +372,8 @@ bool TRE::DecomposeTREString(const char* aText, char** aTag, char** aData, std::
     if (text.size() < start || text.size() - start < wanted) {
         return false;
     }
-    if (!Util::CSMUtilString::Copy(TrimmedTag(text.substr(0, TAG_WIDTH).c_str()).c_str(), aTag) ||
-        !Util::CSMUtilString::Copy(text.substr(start, wanted).c_str(), aData)) {
+    if (!Detail::HandOut(Detail::TrimmedEnd(std::string_view(text).substr(0, TAG_WIDTH)), aTag) ||
+        !Detail::HandOut(std::string_view(text).substr(start, wanted), aData)) {
         Util::CSMUtilString::DeleteCString(*aTag);
         return false;
     }
@@ -514,13 +386,7 @@ bool TRE::Write(char** aOut) const
     if (aOut == nullptr) {
         return false;
     }
-    *aOut = nullptr;
-    if (m_text.empty()) {
-        return false;
-    }
-    *aOut = new char[m_text.size() + 1];
-    std::copy_n(m_text.c_str(), m_text.size() + 1, *aOut);
-    return true;
+    return Detail::HandOut(m_parts->text, aOut);
 }
 
 }  // namespace ORMO::SensorModel::CSM

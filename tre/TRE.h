@@ -18,13 +18,6 @@ namespace ORMO::SensorModel::CSM {
 class RawNITFMetadata;
 class TREStore;
 
-namespace Detail {
-struct TreLayout;
-class FieldStore;
-class TreMaker;
-struct TreViews;
-}  // namespace Detail
-
 /// A tagged record extension as read from an extension area (STDI-0002; layout of the record: MIL-STD-2500C, table
 /// its tag, its bytes and, for the tags with a known layout, its fields. A TRE without a known layout, or whose
 /// data do not fit it, is generic: it keeps its bytes and has no fields.
@@ -40,6 +33,10 @@ public:
         TRE_TYPE_REGISTERED_EXTENSION = 1,
         TRE_TYPE_UNKNOWN = -1
     };
+
+    /// What a TRE holds, and the table of a tag: only the library can make or look into them.
+    struct Parts;
+    struct Layout;
 
     using FieldTexts = std::map<std::string, std::string>;
     using FieldWidths = std::map<std::string, int>;
@@ -83,7 +80,8 @@ public:
     virtual const char* GetTRERegisterGroup() const;
     virtual bool IsBinaryField(const char* aName) const;
     virtual bool IsFieldEditable(const char* aName) const;
-    /// 1 when the standard allows the value for the field, 0 when not, -1 when the field or value is unknown.
+    /// 1 when the standard allows the value for the field, 0 when not, -1 when the field or value is unknown. Fields of
+    /// the tag that this TRE has not are known too.
     virtual int IsFieldValueInRange(const char* aName, const char* aValue) const;
     /// A new text with the XML element of this TRE; the caller frees it with CSMUtilString::DeleteCString. A null
     /// classification is written as "UNKNOWN".
@@ -93,7 +91,8 @@ public:
     {
         SerializeTRE(aXml, aClassification, aIndex);
     }
-    /// Number of fields with values that the standard does not allow; appends one line for each to `aErrors`.
+    /// Number of fields with values that the standard does not allow; appends one line for each to `aErrors`, and one
+    /// that begins "WARN: " for an optional field, which is not counted.
     virtual int ValidateFieldValues(std::string& aErrors) const;
 
     /// The data length in a whole TRE text, 0 when there is none: leading white space is skipped and "TAG=" accepted.
@@ -111,12 +110,13 @@ public:
     /// A new text with one XML element per TRE, in order of appearance.
     static bool SerializeTREs(char** aXml, const TREStore& aStore, const char* aClassification);
 
-    const char* GetTag() const noexcept { return m_tag.c_str(); }
-    Type GetTREType() const noexcept { return m_type; }
-    SupportedTreFactory::Enum GetSupportedTREFactoryCode() const noexcept { return m_groupCode; }
-    /// NITFCnst::TreCERETag::TreCode<TAG>, or -1.
-    std::int32_t GetUniqueExtensionTypeID() const noexcept { return m_tagCode; }
-    bool IsGenericTRE() const noexcept { return m_layout == nullptr; }
+    const char* GetTag() const noexcept;
+    Type GetTREType() const noexcept;
+    /// The group that made the TRE typed, or -1.
+    SupportedTreFactory::Enum GetSupportedTREFactoryCode() const noexcept;
+    /// NITFCnst::TreCERETag::TreCode<TAG>, of a generic TRE too, or -1.
+    std::int32_t GetUniqueExtensionTypeID() const noexcept;
+    bool IsGenericTRE() const noexcept;
     /// Bytes of data: the number in CEL or REL.
     std::size_t GetLengthOfDataField() const noexcept;
     /// The data as received; NUL bytes may stand among them.
@@ -125,25 +125,23 @@ public:
     const FieldTexts* GetTREKeyValuePairsMap() const;
     /// Field name to width in bytes. Null when the TRE is generic.
     const FieldWidths* GetTREFieldWidthsMap() const;
-    /// A new text with the children of the XML element, each on a line behind `aIndent` (null: eight blanks): the
-    /// fields, or, without `aFields` or when there are none, the data as a whole.
-    bool SerializeTREData(char** aXml, bool aFields, const char* aIndent) const;
+    /// A new text with the XML element of this TRE, as Serialize; without `aFields` its data stand in it as a whole.
+    bool SerializeTREData(char** aXml, bool aFields, const char* aClassification, int aIndex) const;
 
     std::size_t GetNumOfFields() const noexcept;
     /// One field by its place in the data, without building any map: name into `aName`, bytes as in GetFieldAsString.
     bool GetFieldAt(std::size_t aIndex, std::string& aName, const char*& aValue, std::size_t& aLength) const;
 
     /// The area that the TRE was read from, such as "UDID" or "TRE_OVERFLOW"; empty when it was made otherwise.
-    const char* GetExtensionArea() const noexcept { return m_area; }
+    const char* GetExtensionArea() const noexcept;
     /// Byte offset of the TRE in its file; only meaningful with an extension area.
-    std::uint64_t GetFileOffset() const noexcept { return m_fileOffset; }
+    std::uint64_t GetFileOffset() const noexcept;
 
 protected:
-    /// A typed TRE. Raises std::invalid_argument for data of the wrong length and InitializationException for data
-    /// that do not hold the fields they promise.
-    TRE(const Detail::TreLayout& aLayout, const char* aData, std::size_t aLength, Type aType,
-        Util::CSMCnst::ByteOrder aByteOrder);
-    /// A generic TRE: raises std::invalid_argument for an empty tag or missing data.
+    /// Takes over parts that the library made.
+    explicit TRE(Parts& aParts) noexcept;
+    /// A generic TRE. Raises std::invalid_argument for missing data, for a tag that is empty or longer than 6
+    /// characters and for more than 99,999 bytes of data.
     TRE(const char* aTag, const char* aData, std::size_t aLength, Type aType);
     TRE(const TRE& aOther);
 
@@ -152,6 +150,7 @@ protected:
 
     virtual bool CloneObj(const TRE& aOther);
     virtual void FreeRawMetaDataObject();
+    /// Of the fields; 0 when there are none.
     virtual Util::CSMCnst::ByteOrder GetBinaryDataByteOrder() const;
     virtual bool GetDoubleField(const char* aName, double& aValue) const;
     virtual bool GetIntegerField(const char* aName, std::int64_t& aValue) const;
@@ -176,29 +175,10 @@ public:
     /// CSMUtilString::DeleteCString. False when there is none.
     virtual bool Write(char** aOut) const;
 
-protected:
-    const Detail::FieldStore& Fields() const noexcept { return *m_fields; }
-
 private:
-    friend class Detail::TreMaker;
-    friend class TREStore;
+    std::string Element(bool aFields, const char* aClassification, int aIndex) const;
 
-    Detail::TreViews& Views() const;
-    std::string Compose(const char* aData, std::size_t aLength) const;
-    void AppendFieldElements(std::string& aXml, const char* aIndent) const;
-    void AppendDataElement(std::string& aXml, const char* aIndent) const;
-
-    std::string m_tag;
-    Type m_type = TRE_TYPE_UNKNOWN;
-    std::int32_t m_tagCode = -1;
-    SupportedTreFactory::Enum m_groupCode = SupportedTreFactory::UNKNOWN;
-    Util::CSMCnst::ByteOrder m_byteOrder = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN;
-    const Detail::TreLayout* m_layout = nullptr;
-    std::string m_text;  // tag, length and data as they stand in a file
-    std::unique_ptr<Detail::FieldStore> m_fields;
-    const char* m_area = "";
-    std::uint64_t m_fileOffset = 0;
-    mutable std::unique_ptr<Detail::TreViews> m_views;
+    std::unique_ptr<Parts> m_parts;  // never null
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -6,8 +6,6 @@
 #include "TREStore.h"
 
 #include <cstddef>
-#include <cstdint>
-#include <string>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -16,14 +14,6 @@ namespace ORMO::SensorModel::CSM {
 class ORMO_CSM_API TREFactory
 {
 public:
-    /// Where an area stands in its file, for the TREs that it yields.
-    struct AreaPlace
-    {
-        const char* name = "";                          ///< "UDHD", "XHD", "UDID" ...; must live as long as the process
-        std::uint64_t offset = 0;                       ///< of the first byte of the area in the file
-        TRE::Type unknownType = TRE::TRE_TYPE_UNKNOWN;  ///< for tags that no group knows
-    };
-
     /// Cuts a NUL-terminated area and adds its TREs to the store; answers how many. With `aSpecificOnly`, TREs without
     /// a typed form are reported and left out; otherwise they become generic TREs. With `aValidate`, a typed TRE must
     /// hold only values that its standard allows. Warnings are handed out as a new text that the caller frees with
@@ -31,14 +21,10 @@ public:
     static int ExtractTREs(const char* aArea, TREStore& aStore, bool aSpecificOnly, bool aValidate, char** aErrors,
                            Util::CSMCnst::ByteOrder aByteOrder = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN);
 
-    /// The same for an area of known length, in which NUL bytes are data. Warnings are appended to `aWarnings`.
-    static int ExtractTREs(const char* aArea, std::size_t aLength, TREStore& aStore, bool aSpecificOnly, bool aValidate,
-                           std::string& aWarnings, Util::CSMCnst::ByteOrder aByteOrder, const AreaPlace& aPlace);
-
-    /// Makes one TRE from its data; the caller releases it with Destroy. Raises std::invalid_argument for missing
-    /// arguments, UnsupportedTREException for a tag without a typed form when `aSpecificOnly` is set, and
-    /// ObjectConstructionException when not even a generic TRE can be made. What kept a TRE from being typed is handed
-    /// out through `aErrors` as a new text.
+    /// Makes one TRE from its data; the caller releases it with Destroy. The output is null unless a TRE was made.
+    /// Raises std::invalid_argument for missing arguments, UnsupportedTREException for a tag without a typed form when
+    /// `aSpecificOnly` is set, and ObjectConstructionException when not even a generic TRE can be made. What kept a TRE
+    /// from being typed is handed out through `aErrors` as a new text.
     static void Create(const char* aTag, const char* aData, TRE::Type aType, TRE** aTre, bool aSpecificOnly,
                        bool aValidate, char** aErrors, std::size_t aLength,
                        Util::CSMCnst::ByteOrder aByteOrder = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN);
@@ -47,7 +33,7 @@ public:
     static void Create(const char* aTreString, TRE::Type aType, TRE** aTre, bool aSpecificOnly, bool aValidate,
                        char** aErrors, Util::CSMCnst::ByteOrder aByteOrder = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN);
 
-    /// A deep copy; the caller releases it with Destroy.
+    /// A deep copy; the caller releases it with Destroy. False, with null, when it cannot be made.
     static bool CloneTRE(const TRE& aSource, TRE** aCopy);
 
     /// Releases a TRE that this factory made and nulls the pointer.

@@ -1,42 +1,76 @@
 #include "tre/TREStore.h"
 
-#include "fields/Number.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/detail/Ascii.h"
-#include "tre/TREFactory.h"
+#include "foundation/detail/Lazy.h"
+#include "tre/detail/TreMaker.h"
 
 #include <algorithm>
+#include <new>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
-TREStore::~TREStore()
-{
-    Clear();
-}
+namespace {
 
-TREStore::TREStore(TREStore&& aOther) noexcept
-    : m_byTag(std::exchange(aOther.m_byTag, {})), m_inOrder(std::exchange(aOther.m_inOrder, {}))
+/// The map with keys of its own: a TRE may be assigned to while it stands in a store.
+struct TagMap
 {
-}
+    TREStore::Map map;
+    std::vector<std::unique_ptr<const std::string>> keys;
+
+    explicit TagMap(const std::vector<TRE*>& aTres)
+    {
+        for (TRE* const tre : aTres) {
+            auto place = map.find(tre->GetTag());
+            if (place == map.end()) {
+                keys.push_back(std::make_unique<const std::string>(tre->GetTag()));
+                place = map.try_emplace(keys.back()->c_str()).first;
+            }
+            place->second.push_back(tre);
+        }
+    }
+};
+
+}  // namespace
+
+struct TREStore::Contents
+{
+    std::vector<TRE*> tres;
+    Detail::Lazy<TagMap> byTag;
+
+    Contents() = default;
+    Contents(const Contents&) = delete;
+    Contents& operator=(const Contents&) = delete;
+    ~Contents()
+    {
+        for (TRE* const tre : tres) {
+            Detail::TreReleaser()(tre);
+        }
+    }
+};
+
+TREStore::TREStore() noexcept = default;
+TREStore::~TREStore() = default;
+TREStore::TREStore(TREStore&& aOther) noexcept = default;
 
 TREStore& TREStore::operator=(TREStore&& aOther) noexcept
 {
-    std::swap(m_byTag, aOther.m_byTag);
-    std::swap(m_inOrder, aOther.m_inOrder);
+    std::swap(m_contents, aOther.m_contents);
     return *this;
 }
 
 TREStore::TREStore(const TREStore& aOther)
 {
-    for (const TRE* const source : aOther.m_inOrder) {
-        TRE* copy = nullptr;
-        if (!TREFactory::CloneTRE(*source, &copy) || !Add(copy)) {
-            TREFactory::Destroy(&copy);
-            Clear();
+    Reserve(aOther.Size());
+    for (const TRE* const source : aOther.InOrder()) {
+        Detail::OwnedTre copy = Detail::TreMaker::Clone(*source);
+        if (copy == nullptr) {
             throw RequestedOperationFailedException("ERROR: Failed to copy a TRE.", "TREStore::TREStore");
         }
+        m_contents->tres.push_back(copy.release());
     }
 }
 
@@ -48,36 +82,79 @@ TREStore& TREStore::operator=(const TREStore& aOther)
     return *this;
 }
 
-bool TREStore::Add(TRE* aTre)
+void TREStore::Reserve(std::size_t aMore)
+{
+    if (m_contents == nullptr && aMore != 0) {
+        m_contents = std::make_unique<Contents>();
+    }
+    if (aMore != 0) {
+        std::vector<TRE*>& tres = m_contents->tres;
+        const std::size_t wanted = tres.size() + aMore;
+        if (wanted > tres.capacity()) {
+            tres.reserve(std::max(wanted, tres.size() + tres.size() / 2 + 4));
+        }
+    }
+}
+
+bool TREStore::Add(TRE* aTre) noexcept
 {
     if (aTre == nullptr) {
         return false;
     }
-    m_inOrder.reserve(m_inOrder.size() + 1 > m_inOrder.capacity() ? 2 * m_inOrder.size() + 8 : m_inOrder.capacity());
-    m_byTag[aTre->GetTag()].push_back(aTre);
-    m_inOrder.push_back(aTre);
+    try {
+        Reserve(1);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    m_contents->tres.push_back(aTre);
+    m_contents->byTag.Reset();
     return true;
+}
+
+void TREStore::Take(TREStore& aOther)
+{
+    if (this == &aOther || aOther.IsEmpty()) {
+        return;
+    }
+    if (IsEmpty()) {
+        std::swap(m_contents, aOther.m_contents);
+        return;
+    }
+    Reserve(aOther.Size());
+    std::vector<TRE*>& theirs = aOther.m_contents->tres;
+    m_contents->tres.insert(m_contents->tres.end(), theirs.begin(), theirs.end());
+    m_contents->byTag.Reset();
+    theirs.clear();
+    aOther.m_contents.reset();
+}
+
+const TREStore::Map& TREStore::ByTag() const
+{
+    static const Map none;
+    return m_contents == nullptr ? none : m_contents->byTag.Get([this] { return TagMap(m_contents->tres); }).map;
+}
+
+const std::vector<TRE*>& TREStore::InOrder() const noexcept
+{
+    static const std::vector<TRE*> none;
+    return m_contents == nullptr ? none : m_contents->tres;
 }
 
 const std::vector<TRE*>* TREStore::Find(const char* aTag) const
 {
     const std::string tag(Detail::Trimmed(aTag));
-    const auto it = m_byTag.find(tag.c_str());
-    return it == m_byTag.end() ? nullptr : &it->second;
+    const auto it = ByTag().find(tag.c_str());
+    return it == ByTag().end() ? nullptr : &it->second;
 }
 
 void TREStore::Clear() noexcept
 {
-    m_byTag.clear();  // its keys are texts of the TREs
-    for (TRE*& tre : m_inOrder) {
-        TREFactory::Destroy(&tre);
-    }
-    m_inOrder.clear();
+    m_contents.reset();
 }
 
 bool TREStore::operator==(const TREStore& aOther) const
 {
-    return std::equal(m_byTag.begin(), m_byTag.end(), aOther.m_byTag.begin(), aOther.m_byTag.end(),
+    return std::equal(ByTag().begin(), ByTag().end(), aOther.ByTag().begin(), aOther.ByTag().end(),
                       [](const Map::value_type& aLeft, const Map::value_type& aRight) {
                           return std::string_view(aLeft.first) == aRight.first &&
                                  std::equal(aLeft.second.begin(), aLeft.second.end(), aRight.second.begin(),

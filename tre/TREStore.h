@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM {
@@ -18,29 +19,37 @@ public:
     /// Tag to the TREs of that tag.
     using Map = std::map<const char*, std::vector<TRE*>, CharStrCompare>;
 
-    TREStore() = default;
+    TREStore() noexcept;
     ~TREStore();
     TREStore(TREStore&& aOther) noexcept;
     TREStore& operator=(TREStore&& aOther) noexcept;
+    /// Raises RequestedOperationFailedException when a special provider refuses to copy a TRE of its own.
     TREStore(const TREStore& aOther);
     TREStore& operator=(const TREStore& aOther);
 
-    /// Takes the TRE over; false, with nothing taken, for null.
-    bool Add(TRE* aTre);
-    const Map& ByTag() const noexcept { return m_byTag; }
-    const std::vector<TRE*>& InOrder() const noexcept { return m_inOrder; }
-    /// The TREs of a tag, trailing blanks of the tag left out; null when there are none.
+    /// Takes the TRE over; false, with nothing taken, for null and when memory is short.
+    bool Add(TRE* aTre) noexcept;
+    /// Takes all TREs of another store over, behind its own; the other one is empty afterwards. When memory is short
+    /// both stay as they are.
+    void Take(TREStore& aOther);
+    /// Makes room for that many more, so that Add does not fail. Raises std::bad_alloc.
+    void Reserve(std::size_t aMore);
+    /// Built when it is first asked for; lives until a TRE is added or the store is cleared.
+    const Map& ByTag() const;
+    const std::vector<TRE*>& InOrder() const noexcept;
+    /// The TREs of a tag, blanks around it left out; null when there are none. Lives as long as the map.
     const std::vector<TRE*>* Find(const char* aTag) const;
-    std::size_t Size() const noexcept { return m_inOrder.size(); }
-    bool IsEmpty() const noexcept { return m_inOrder.empty(); }
+    std::size_t Size() const noexcept { return InOrder().size(); }
+    bool IsEmpty() const noexcept { return InOrder().empty(); }
     void Clear() noexcept;
     /// Same tags with equal TREs in the same order.
     bool operator==(const TREStore& aOther) const;
     bool operator!=(const TREStore& aOther) const { return !(*this == aOther); }
 
 private:
-    Map m_byTag;  // keys are the texts of the first TRE of each tag
-    std::vector<TRE*> m_inOrder;
+    struct Contents;
+
+    std::unique_ptr<Contents> m_contents;  // null until there is a TRE
 };
 
 }  // namespace ORMO::SensorModel::CSM

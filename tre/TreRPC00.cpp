@@ -1,9 +1,9 @@
 #include "tre/TreRPC00.h"
 
-#include "fields/FieldStore.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/HandOut.h"
 #include "tre/NITFCnstTreCERETag.h"
+#include "tre/detail/TreParts.h"
 
 #include <algorithm>
 #include <string>
@@ -27,15 +27,12 @@ constexpr bool IsPermutation(const std::array<std::size_t, TreRPC00::NUM_OF_COEF
 }
 static_assert(IsPermutation(TreRPC00::c_mappingRPC00AToRPC00B));
 
+constexpr std::array<std::string_view, 4> POLYNOMIALS = {"LINE_NUM_COEFF", "LINE_DEN_COEFF", "SAMP_NUM_COEFF",
+                                                         "SAMP_DEN_COEFF"};
+
 }  // namespace
 
-TreRPC00::TreRPC00(const Detail::TreLayout& aLayout, const char* aData, std::size_t aLength, Type aType,
-                   Util::CSMCnst::ByteOrder aByteOrder)
-    : TRE(aLayout, aData, aLength, aType, aByteOrder)
-{
-}
-
-TreRPC00::TreRPC00(const TreRPC00& aOther) : TRE(aOther), m_state(aOther.CopyState()) {}
+TreRPC00::TreRPC00(const TreRPC00& aOther) : TRE(aOther), m_forgotten(aOther.m_forgotten) {}
 
 TreRPC00::~TreRPC00() = default;
 
@@ -47,17 +44,11 @@ TreRPC00& TreRPC00::operator=(const TreRPC00& aOther)
 
 bool TreRPC00::CloneObj(const TRE& aOther)
 {
-    const auto* const other = dynamic_cast<const TreRPC00*>(&aOther);
     if (!TRE::CloneObj(aOther)) {
         return false;
     }
-    if (other == nullptr) {
-        CleanupRPC00();
-        return true;
-    }
-    const State state = other->CopyState();
-    const std::lock_guard lock(m_guard);
-    m_state = state;
+    const auto* const other = dynamic_cast<const TreRPC00*>(&aOther);
+    m_forgotten = other != nullptr && other->m_forgotten;
     return true;
 }
 
@@ -66,24 +57,16 @@ void TreRPC00::Swap(TRE& aOther) noexcept
     TRE::Swap(aOther);
     auto* const other = dynamic_cast<TreRPC00*>(&aOther);
     if (other == nullptr) {
-        CleanupRPC00();
-    } else if (other != this) {
-        const std::scoped_lock lock(m_guard, other->m_guard);
-        std::swap(m_state, other->m_state);
+        m_forgotten = false;
+    } else {
+        std::swap(m_forgotten, other->m_forgotten);
     }
 }
 
 void TreRPC00::CleanupRPC00() noexcept
 {
-    const std::lock_guard lock(m_guard);
-    m_state = State{};
-    m_state.usable = false;
-}
-
-TreRPC00::State TreRPC00::CopyState() const
-{
-    const std::lock_guard lock(m_guard);
-    return m_state;
+    m_forgotten = true;
+    Parts::Of(*this).views.Reset();
 }
 
 bool TreRPC00::IsRPC00A() const noexcept
@@ -93,58 +76,49 @@ bool TreRPC00::IsRPC00A() const noexcept
 
 bool TreRPC00::ConvertField(std::string_view aTag, std::uint32_t aTurn, double& aValue) const
 {
-    const Detail::FieldStore& fields = Fields();
-    const Detail::FieldEntry* const entry =
-        fields.Find(fields.Table().Find(aTag, aTurn == 0 ? 0 : 1), Detail::Turns{aTurn});
-    if (entry == nullptr) {
+    const Parts& parts = Parts::Of(*this);
+    if (parts.fields == nullptr) {
         return false;
     }
-    const std::string_view text = fields.Value(*entry);
-    // A NUL inside would end the text for the conversion and hide what follows.
-    return text.find('\0') == std::string_view::npos && Util::CSMUtilString::ToDouble(text.data(), aValue);
-}
-
-bool TreRPC00::Convert() const
-{
-    const bool fromA = IsRPC00A();
-    for (std::size_t k = 0; k != NUM_OF_COEFFICIENTS; ++k) {
-        const auto turn = static_cast<std::uint32_t>((fromA ? c_mappingRPC00AToRPC00B[k] : k) + 1);
-        if (!ConvertField("LINE_NUM_COEFF", turn, m_state.lineNumerator[k]) ||
-            !ConvertField("LINE_DEN_COEFF", turn, m_state.lineDenominator[k]) ||
-            !ConvertField("SAMP_NUM_COEFF", turn, m_state.sampleNumerator[k]) ||
-            !ConvertField("SAMP_DEN_COEFF", turn, m_state.sampleDenominator[k])) {
-            return false;
-        }
-    }
-    return true;
+    const Detail::FieldStore& store = parts.fields->Store();
+    const Detail::FieldEntry* const entry =
+        store.Find(store.Table().Find(aTag, aTurn == 0 ? 0 : 1), Detail::Turns{aTurn});
+    return entry != nullptr && parts.fields->As(*entry, aValue);
 }
 
 bool TreRPC00::InitializeRPCCoefficients() const
 {
-    const std::lock_guard lock(m_guard);
-    if (m_state.converted || !m_state.usable) {
-        return m_state.converted;
-    }
-    if (!Convert()) {
-        m_state = State{};
-        m_state.usable = false;
+    if (m_forgotten) {
         return false;
     }
-    m_state.converted = true;
-    return true;
+    const auto convert = [this] {
+        const bool fromA = IsRPC00A();
+        Detail::RpcCoefficients made;
+        for (std::size_t polynomial = 0; polynomial != POLYNOMIALS.size(); ++polynomial) {
+            for (std::size_t k = 0; k != NUM_OF_COEFFICIENTS; ++k) {
+                const auto turn = static_cast<std::uint32_t>((fromA ? c_mappingRPC00AToRPC00B[k] : k) + 1);
+                if (!ConvertField(POLYNOMIALS[polynomial], turn, made.polynomials[polynomial][k])) {
+                    return Detail::RpcCoefficients();
+                }
+            }
+        }
+        made.usable = true;
+        return made;
+    };
+    return Parts::Of(*this).Views().coefficients.Get(convert).usable;
 }
 
 bool TreRPC00::GetRPCCoefficients(double* aLineNumerator, double* aLineDenominator, double* aSampleNumerator,
                                   double* aSampleDenominator) const
 {
-    if (aLineNumerator == nullptr || aLineDenominator == nullptr || aSampleNumerator == nullptr ||
-        aSampleDenominator == nullptr || !InitializeRPCCoefficients()) {
+    const std::array<double*, 4> targets = {aLineNumerator, aLineDenominator, aSampleNumerator, aSampleDenominator};
+    if (std::find(targets.begin(), targets.end(), nullptr) != targets.end() || !InitializeRPCCoefficients()) {
         return false;
     }
-    std::copy(m_state.lineNumerator.begin(), m_state.lineNumerator.end(), aLineNumerator);
-    std::copy(m_state.lineDenominator.begin(), m_state.lineDenominator.end(), aLineDenominator);
-    std::copy(m_state.sampleNumerator.begin(), m_state.sampleNumerator.end(), aSampleNumerator);
-    std::copy(m_state.sampleDenominator.begin(), m_state.sampleDenominator.end(), aSampleDenominator);
+    const auto& polynomials = Parts::Of(*this).Views().coefficients.Made()->polynomials;
+    for (std::size_t i = 0; i != targets.size(); ++i) {
+        std::copy(polynomials[i].begin(), polynomials[i].end(), targets[i]);
+    }
     return true;
 }
 

@@ -6,7 +6,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <mutex>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM {
@@ -61,39 +60,23 @@ public:
     bool GetRPCErrors(double& aBias, double& aRandom) const;
 
 protected:
-    TreRPC00(const Detail::TreLayout& aLayout, const char* aData, std::size_t aLength, Type aType,
-             Util::CSMCnst::ByteOrder aByteOrder);
+    /// Takes over parts that the library made.
+    explicit TreRPC00(Parts& aParts) noexcept : TRE(aParts) {}
     TreRPC00(const TreRPC00& aOther);
 
     bool CloneObj(const TRE& aOther) override;
     void Swap(TRE& aOther) noexcept override;
     /// Converts the coefficients unless that is done; one text that is no number makes all unusable for good.
     bool InitializeRPCCoefficients() const;
-    /// Forgets the coefficients; none can be had afterwards.
+    /// Forgets the coefficients; none can be had until another TRE is assigned.
     void CleanupRPC00() noexcept;
 
 private:
-    using Polynomial = std::array<double, NUM_OF_COEFFICIENTS>;
-
-    /// What conversion has come to.
-    struct State
-    {
-        Polynomial lineNumerator{};
-        Polynomial lineDenominator{};
-        Polynomial sampleNumerator{};
-        Polynomial sampleDenominator{};
-        bool usable = true;
-        bool converted = false;
-    };
-
-    bool Convert() const;
-    State CopyState() const;
     bool IsRPC00A() const noexcept;
     /// The number in the field of that tag; in its turn when it is repeated, counted from 1.
     bool ConvertField(std::string_view aTag, std::uint32_t aTurn, double& aValue) const;
 
-    mutable std::mutex m_guard;  // of the state, which queries change
-    mutable State m_state;
+    bool m_forgotten = false;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -37,6 +37,9 @@ public:
         return *first;
     }
 
+    /// The part when there is one already, or null.
+    const Part* Made() const noexcept { return m_part.load(std::memory_order_acquire); }
+
     /// Forgets the part; nobody else may use the object meanwhile.
     void Reset() noexcept { delete m_part.exchange(nullptr, std::memory_order_acq_rel); }
 

@@ -49,7 +49,7 @@ void DesDESDATA::InitDesDESDATA(const char* aType, const char* aData, std::size_
 {
     constexpr const char* SOURCE = "DesDESDATA::InitDesDESDATA";
     TakeData(aType, aData, aLength, "ERROR: NULL or empty input DES DESDATA data.", SOURCE);
-    const Detail::DesLayout& layout = InitDESDATAFieldsMap();
+    const Layout& layout = InitDESDATAFieldsMap();
     if (std::string_view(layout.type) != GetUniqueDESTypeID()) {
         throw UnsupportedDESDATAException(SOURCE);
     }

@@ -38,7 +38,7 @@ protected:
     DesDESDATA(const DesDESDATA& aOther);
 
     /// The field table of the type, with its names.
-    virtual const Detail::DesLayout& InitDESDATAFieldsMap() const = 0;
+    virtual const Layout& InitDESDATAFieldsMap() const = 0;
     /// Takes a copy of the bytes and cuts them into fields. Raises UnsupportedDESDATAException for an identifier of
     /// another type and InitializationException when the bytes are missing or do not fit, or required fields are blank.
     void InitDesDESDATA(const char* aType, const char* aData, std::size_t aLength);

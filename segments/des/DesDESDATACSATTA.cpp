@@ -1,10 +1,10 @@
 #include "segments/des/DesDESDATACSATTA.h"
 
-#include "fields/FieldValue.h"
 #include "fields/FieldWalk.h"
 #include "segments/des/DesDESSHFCSATTA.h"
 #include "segments/des/SupportedDESDATAs.h"
 #include "segments/des/detail/DesLayout.h"
+#include "segments/des/detail/DesParts.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,14 +60,13 @@ DesDESDATACSATTA::DesDESDATACSATTA(const char* aType, const char* aData, std::si
     InitDesDESDATA(aType, aData, aLength);
 }
 
-const Detail::DesLayout& DesDESDATACSATTA::InitDESDATAFieldsMap() const
+const DesFieldSet::Layout& DesDESDATACSATTA::InitDESDATAFieldsMap() const
 {
-    static constexpr Detail::DesLayout LAYOUT{SupportedDESDATAs::DES_CSATTA,
-                                              "Focal Plane Array Boresight Alignment Attitude Data", "a multiple of 32",
-                                              "DesDESDATACSATTA", TABLE.View()};
-    static constexpr Detail::DesLayout TEXT_LAYOUT{SupportedDESDATAs::DES_CSATTA,
-                                                   "Focal Plane Array Boresight Alignment Attitude Data",
-                                                   "a multiple of 32", "DesDESDATACSATTA", TEXT_TABLE.View()};
+    static constexpr Layout LAYOUT{SupportedDESDATAs::DES_CSATTA, "Focal Plane Array Boresight Alignment Attitude Data",
+                                   "a multiple of 32", "DesDESDATACSATTA", TABLE.View()};
+    static constexpr Layout TEXT_LAYOUT{SupportedDESDATAs::DES_CSATTA,
+                                        "Focal Plane Array Boresight Alignment Attitude Data", "a multiple of 32",
+                                        "DesDESDATACSATTA", TEXT_TABLE.View()};
     return IsText(Data()) ? TEXT_LAYOUT : LAYOUT;
 }
 
@@ -83,11 +82,9 @@ bool DesDESDATACSATTA::GetAttitudePoints(const DesDESSHFCSATTA& aSubheader, std:
     if (!aSubheader.GetTimeStep(step)) {
         return false;
     }
-    const Detail::FieldStore& fields = Fields();
+    const Detail::FieldRecord& fields = Parts::Of(*this).fields;
     const auto value = [&fields](std::size_t aIndex, double& aOut) {
-        const Detail::FieldEntry& entry = fields.Entries()[aIndex];
-        return Detail::ValueAsDouble(fields.Row(entry), fields.Value(entry), Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN,
-                                     aOut);
+        return fields.As(fields.Store().Entries()[aIndex], aOut);
     };
     std::vector<AttitudePoint> points(GetNumOfPoints());
     for (std::size_t i = 0; i != points.size(); ++i) {

@@ -37,7 +37,7 @@ public:
     bool GetAttitudePoints(const DesDESSHFCSATTA& aSubheader, std::vector<AttitudePoint>& aPoints) const;
 
 protected:
-    const Detail::DesLayout& InitDESDATAFieldsMap() const override;
+    const Layout& InitDESDATAFieldsMap() const override;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -39,10 +39,10 @@ DesDESDATACSSHPA::DesDESDATACSSHPA(const char* aType, const char* aData, std::si
     InitDesDESDATA(aType, aData, aLength);
 }
 
-const Detail::DesLayout& DesDESDATACSSHPA::InitDESDATAFieldsMap() const
+const DesFieldSet::Layout& DesDESDATACSSHPA::InitDESDATAFieldsMap() const
 {
-    static constexpr Detail::DesLayout LAYOUT{SupportedDESDATAs::DES_CSSHPA, "Image/Cloud Cover Shapefile", "any",
-                                              "DesDESDATACSSHPA", TABLE.View()};
+    static constexpr Layout LAYOUT{SupportedDESDATAs::DES_CSSHPA, "Image/Cloud Cover Shapefile", "any",
+                                   "DesDESDATACSSHPA", TABLE.View()};
     return LAYOUT;
 }
 

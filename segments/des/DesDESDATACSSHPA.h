@@ -35,7 +35,7 @@ public:
                        std::string* aErrors = nullptr) const;
 
 protected:
-    const Detail::DesLayout& InitDESDATAFieldsMap() const override;
+    const Layout& InitDESDATAFieldsMap() const override;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -49,7 +49,7 @@ void DesDESSHF::InitDesDESSHF(const char* aType, const char* aData, std::size_t 
 {
     constexpr const char* SOURCE = "DesDESSHF::InitDesDESSHF";
     TakeData(aType, aData, aLength, "ERROR: NULL or empty input DES DESSHF data/DESID.", SOURCE);
-    const Detail::DesLayout& layout = InitDESSHFFieldsMap();
+    const Layout& layout = InitDESSHFFieldsMap();
     if (std::string_view(layout.type) != GetUniqueDESTypeID()) {
         throw UnsupportedDESSHFException(SOURCE);
     }

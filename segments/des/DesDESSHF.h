@@ -35,7 +35,7 @@ protected:
     DesDESSHF(const DesDESSHF& aOther);
 
     /// The field table of the type, with its names.
-    virtual const Detail::DesLayout& InitDESSHFFieldsMap() const = 0;
+    virtual const Layout& InitDESSHFFieldsMap() const = 0;
     /// Takes a copy of the bytes and cuts them into fields. Raises UnsupportedDESSHFException for an identifier of
     /// another type and InitializationException when the bytes are missing or do not fit, or required fields are blank.
     void InitDesDESSHF(const char* aType, const char* aData, std::size_t aLength);

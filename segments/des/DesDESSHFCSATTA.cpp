@@ -32,11 +32,10 @@ DesDESSHFCSATTA::DesDESSHFCSATTA(const char* aType, const char* aData, std::size
     InitDesDESSHF(aType, aData, aLength);
 }
 
-const Detail::DesLayout& DesDESSHFCSATTA::InitDESSHFFieldsMap() const
+const DesFieldSet::Layout& DesDESSHFCSATTA::InitDESSHFFieldsMap() const
 {
-    static constexpr Detail::DesLayout LAYOUT{SupportedDESSHFs::CSATTA,
-                                              "Focal Plane Array Boresight Alignment Attitude Data", "52",
-                                              "DesDESSHFCSATTA", TABLE.View()};
+    static constexpr Layout LAYOUT{SupportedDESSHFs::CSATTA, "Focal Plane Array Boresight Alignment Attitude Data",
+                                   "52", "DesDESSHFCSATTA", TABLE.View()};
     return LAYOUT;
 }
 

@@ -21,7 +21,7 @@ public:
     bool GetNumOfPoints(unsigned long& aCount) const { return GetFieldAsUnsignedLong("NUM_ATT", aCount); }
 
 protected:
-    const Detail::DesLayout& InitDESSHFFieldsMap() const override;
+    const Layout& InitDESSHFFieldsMap() const override;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -53,15 +53,15 @@ DesDESSHFCSSHPA::DesDESSHFCSSHPA(const char* aType, const char* aData, std::size
     InitDesDESSHF(aType, aData, aLength);
 }
 
-const Detail::DesLayout& DesDESSHFCSSHPA::InitDESSHFFieldsMap() const
+const DesFieldSet::Layout& DesDESSHFCSSHPA::InitDESSHFFieldsMap() const
 {
-    static constexpr Detail::DesLayout LAYOUT{SupportedDESSHFs::CSSHPA,
-                                              "Image/Cloud Cover Shapefile",
-                                              "62, with CC_SOURCE 80",
-                                              "DesDESSHFCSSHPA",
-                                              TABLE.View(),
-                                              "ERROR: The input DESSHF data is invalid.",
-                                              "SHAPE_USE"};
+    static constexpr Layout LAYOUT{SupportedDESSHFs::CSSHPA,
+                                   "Image/Cloud Cover Shapefile",
+                                   "62, with CC_SOURCE 80",
+                                   "DesDESSHFCSSHPA",
+                                   TABLE.View(),
+                                   "ERROR: The input DESSHF data is invalid.",
+                                   "SHAPE_USE"};
     return LAYOUT;
 }
 

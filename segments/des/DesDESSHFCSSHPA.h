@@ -16,7 +16,7 @@ public:
     std::unique_ptr<DesDESSHF> Clone() const override { return std::make_unique<DesDESSHFCSSHPA>(*this); }
 
 protected:
-    const Detail::DesLayout& InitDESSHFFieldsMap() const override;
+    const Layout& InitDESSHFFieldsMap() const override;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -59,11 +59,11 @@ DesDESSHFXmlDataContent::DesDESSHFXmlDataContent(const char* aType, const char* 
     InitDesDESSHF(aType, aData, aLength);
 }
 
-const Detail::DesLayout& DesDESSHFXmlDataContent::InitDESSHFFieldsMap() const
+const DesFieldSet::Layout& DesDESSHFXmlDataContent::InitDESSHFFieldsMap() const
 {
-    static constexpr Detail::DesLayout LAYOUT{SupportedDESSHFs::XML_DATA_CONTENT,
-                                              "High Resolution Elevation (HRE) Product XML_DATA_CONTENT",
-                                              "5, 283 or 773", "DesDESSHFXmlDataContent", TABLE.View()};
+    static constexpr Layout LAYOUT{SupportedDESSHFs::XML_DATA_CONTENT,
+                                   "High Resolution Elevation (HRE) Product XML_DATA_CONTENT", "5, 283 or 773",
+                                   "DesDESSHFXmlDataContent", TABLE.View()};
     return LAYOUT;
 }
 

@@ -15,7 +15,7 @@
 #include "segments/detail/SegmentContents.h"
 #include "segments/detail/SegmentData.h"
 #include "segments/detail/SegmentWords.h"
-#include "tre/TREFactory.h"
+#include "tre/detail/TreArea.h"
 
 #include <algorithm>
 #include <array>
@@ -208,12 +208,13 @@ void NITFDESSubheader::InitOverflowTREs(bool aSpecificOnly, Util::CSMCnst::ByteO
         return;
     }
     const bool registered = m_targetArea == "UDHD" || m_targetArea == "UDID";
-    std::string warnings;
-    TREFactory::ExtractTREs(data.data(), data.size(), m_carried, aSpecificOnly, false, warnings, aByteOrder,
-                            {NITFCnst::DES_DESID_TRE_OVERFLOW, Data().Start(),
-                             registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION});
-    if (!warnings.empty()) {
-        AddWarning(warnings);
+    Detail::FindingList findings;
+    Detail::ExtractTREs(data, m_carried, {aSpecificOnly, false}, aByteOrder,
+                        {NITFCnst::DES_DESID_TRE_OVERFLOW, Data().Start(),
+                         registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION},
+                        findings);
+    if (!findings.IsEmpty()) {
+        AddWarning(findings.Blocks(false));
     }
 }
 

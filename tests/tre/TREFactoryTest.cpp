@@ -4,6 +4,7 @@
 #include "tests/support/Refusal.h"
 #include "tre/TREFactory.h"
 #include "tre/TREStore.h"
+#include "tre/detail/TreArea.h"
 
 #include <memory>
 #include <stdexcept>
@@ -56,9 +57,11 @@ protected:
     void Extract(const std::string& aArea, bool aSpecificOnly = false, bool aValidate = false)
     {
         m_store.Clear();
-        m_warnings.clear();
-        m_count = TREFactory::ExtractTREs(aArea.data(), aArea.size(), m_store, aSpecificOnly, aValidate, m_warnings,
-                                          CSMCnst::BYTE_ORDER_BIG_ENDIAN, {"", 0, TRE::TRE_TYPE_CONTROLLED_EXTENSION});
+        m_findings.Clear();
+        m_count = Detail::ExtractTREs(aArea, m_store, {aSpecificOnly, aValidate}, CSMCnst::BYTE_ORDER_BIG_ENDIAN,
+                                      {nullptr, 0, TRE::TRE_TYPE_CONTROLLED_EXTENSION}, m_findings);
+        EXPECT_EQ(0U, m_findings.Errors());
+        m_warnings = m_findings.Blocks(false);
         ASSERT_EQ(static_cast<int>(m_store.Size()), m_count);
         if (aArea.find('\0') != std::string::npos) {
             return;
@@ -79,6 +82,7 @@ protected:
     }
 
     TREStore m_store;
+    Detail::FindingList m_findings;
     std::string m_warnings;
     int m_count = 0;
 };
@@ -187,8 +191,12 @@ TEST_F(ExtractTREsTest, SpecificOnlyLeavesOutWhatHasNoTypedForm)
         "WARN: An UnsupportedTREException exception was caught while attempting to create TRE \"NOBODY\".\nError "
         "message = \"ERROR: Specifc TRE \"NOBODY\" currently not supported by the Ormo CSM System.\"\n\n"
         "WARN: An UnsupportedTREException exception was caught while attempting to create TRE \"OFFSET\".\nError "
-        "message = \"ERROR: Specifc TRE \"OFFSET\" currently not supported by the Ormo CSM System.\"",
+        "message = \"ERROR: Specifc TRE \"OFFSET\" currently not supported by the Ormo CSM System.\"\n\n"
+        "ERROR: Exception \"invalid_argument\" caught for TRE \"OFFSET\". Input CEDATA/REDATA maybe invalid.\n"
+        "Error message = \"ERROR: Expected length of the CEDATA/REDATA of TRE \"OFFSET\" is 16 byte(s). Input "
+        "CEDATA/REDATA length = 5 byte(s).\"",
         m_warnings);
+    EXPECT_EQ(2U, m_findings.Count());
 }
 
 TEST_F(ExtractTREsTest, ValidationIsAskedForApart)
@@ -227,7 +235,9 @@ TEST_F(ExtractTREsTest, ManyFaultsDoNotFloodTheWarnings)
     }
     Extract(area);
     EXPECT_EQ(5000, m_count);
-    EXPECT_THAT(m_warnings, HasSubstr("4000 further messages are left out."));
+    EXPECT_EQ(5000U, m_findings.Count());
+    EXPECT_THAT(m_warnings, HasSubstr(" further messages are left out."));
+    EXPECT_LT(m_warnings.size(), 300000U);
 }
 
 TEST_F(ExtractTREsTest, CountsThatTheDataCannotHoldAreRefusedBeforeTheLoop)
@@ -235,9 +245,11 @@ TEST_F(ExtractTREsTest, CountsThatTheDataCannotHoldAreRefusedBeforeTheLoop)
     Extract(Tre("BANDSA", "01.0000f01.0000f100.009999"));
     ASSERT_EQ(1, m_count);
     EXPECT_TRUE(m_store.InOrder().front()->IsGenericTRE());
-    EXPECT_THAT(m_warnings, AllOf(HasSubstr("ERROR: Failed to initialize a specific TRE object with the input data."),
-                                  HasSubstr("for TRE \"BANDSA\" [expected = "), HasSubstr("extracted = 6]"),
-                                  HasSubstr("\"COUNT\" = \"9999\" promises at least 459954 byte(s)")));
+    EXPECT_THAT(
+        m_warnings,
+        AllOf(HasSubstr("ERROR: Failed to initialize a specific TRE object with the input data."),
+              HasSubstr("for TRE \"BANDSA\" [expected = "), HasSubstr("extracted = 6]"),
+              HasSubstr("Field \"COUNT\" = \"9999\" at data offset 22: The value promises 459954 byte(s), 0 left.")));
 }
 
 TEST(TREFactoryTest, NullAreaIsRefusedAndTheTextHandedOut)
@@ -276,6 +288,32 @@ TEST(TREFactoryTest, CreateRefusesWhatIsMissing)
     EXPECT_EQ(nullptr, tre);
     TREFactory::Destroy(&tre);
     TREFactory::Destroy(nullptr);
+}
+
+TEST(TREFactoryTest, CreateRefusesWhatNoRecordCanHold)
+{
+    EXPECT_THROW(Make("SEVENCH", "data"), ObjectConstructionException);
+    EXPECT_THROW(Make("NOBODY", std::string(100000, 'x')), ObjectConstructionException);
+    EXPECT_EQ(99999U, Make("NOBODY", std::string(99999, 'x'))->GetLengthOfDataField());
+    std::string errors;
+    EXPECT_THROW(Make("PIAPRD", std::string(100000, 'x'), false, false, &errors), ObjectConstructionException);
+}
+
+TEST(TREFactoryTest, OutputsAreNullWhenCreateRaises)
+{
+    TRE* const old = Make("NOBODY", "x").release();
+    const OwnedTre owned(old);
+    for (const char* const text : {"UNKNOW00001x", "no record"}) {
+        TRE* tre = old;
+        Text errors;
+        EXPECT_ANY_THROW(TREFactory::Create(text, TRE::TRE_TYPE_UNKNOWN, &tre, true, false, errors.Out()));
+        EXPECT_EQ(nullptr, tre) << text;
+        EXPECT_TRUE(errors.IsNull());
+    }
+    TRE* tre = old;
+    EXPECT_THROW(TREFactory::Create("NOBODY", nullptr, TRE::TRE_TYPE_UNKNOWN, &tre, false, false, nullptr, 4),
+                 std::invalid_argument);
+    EXPECT_EQ(nullptr, tre);
 }
 
 TEST(TREFactoryTest, WholeTextsAreSplitIntoTagLengthAndData)
@@ -336,6 +374,62 @@ TEST(TREFactoryTest, CopiesAreDeepAndOfTheSameClass)
         EXPECT_EQ(data, std::string(bytes, length));
         EXPECT_FALSE(TREFactory::CloneTRE(*copy, nullptr));
     }
+}
+
+TEST(TREFactoryTest, AnAssignedTreIsCopiedAsWhatItHolds)
+{
+    const OwnedTre generic = Make("NOBODY", "x");
+    const OwnedTre typed = Make("OFFSET", OFFSET_DATA);
+    *generic = *typed;
+    TRE* out = nullptr;
+    ASSERT_TRUE(TREFactory::CloneTRE(*generic, &out));
+    const OwnedTre copy(out);
+    EXPECT_TRUE(*copy == *typed);
+    long line = 0;
+    EXPECT_TRUE(copy->GetFieldAsLong("LINE", line));
+    EXPECT_EQ(12, line);
+
+    *typed = *Make("NOBODY", "y");
+    EXPECT_TRUE(typed->IsGenericTRE());
+    ASSERT_TRUE(TREFactory::CloneTRE(*typed, &out));
+    const OwnedTre second(out);
+    EXPECT_STREQ("NOBODY", second->GetTag());
+    EXPECT_EQ(nullptr, second->GetTREField("LINE"));
+}
+
+TEST(TREStoreTest, AllTresOfAStoreCanBeTakenOver)
+{
+    TREStore first;
+    TREStore second;
+    first.Take(second);
+    EXPECT_TRUE(first.IsEmpty());
+    second.Add(Make("ZULU", "1").release());
+    TRE* const moved = second.InOrder().front();
+    first.Take(second);
+    EXPECT_TRUE(second.IsEmpty());
+    ASSERT_EQ(1U, first.Size());
+    EXPECT_EQ(moved, first.InOrder().front()) << "moved, not copied";
+    second.Add(Make("ALPHA", "2").release());
+    second.Add(Make("ZULU", "3").release());
+    ASSERT_NE(nullptr, first.Find("ZULU"));
+    first.Take(second);
+    ASSERT_EQ(3U, first.Size());
+    EXPECT_STREQ("ALPHA", first.InOrder()[1]->GetTag());
+    EXPECT_EQ(2U, first.Find("ZULU")->size());
+    first.Take(first);
+    EXPECT_EQ(3U, first.Size());
+}
+
+TEST(TREStoreTest, TagsOfTheMapAreItsOwn)
+{
+    TREStore store;
+    store.Add(Make("ZULU", "1").release());
+    ASSERT_NE(nullptr, store.Find("ZULU"));
+    *store.InOrder().front() = *Make("OTHER", "2");
+    EXPECT_STREQ("ZULU", store.ByTag().begin()->first);
+    store.Add(Make("ALPHA", "3").release());
+    EXPECT_EQ(nullptr, store.Find("ZULU"));
+    EXPECT_EQ(1U, store.Find("OTHER")->size());
 }
 
 TEST(TREStoreTest, CopiesAndMovesOwnTheirTres)

@@ -51,6 +51,7 @@ public:
     }
     using TRE::CheckCEREDATALength;
     using TRE::operator=;
+    using TRE::GetBinaryDataByteOrder;
     using TRE::GetNITFTreFieldValueDataTypesMap;
     using TRE::Swap;
 
@@ -236,6 +237,7 @@ TEST_F(TypedTreTest, RangeAndEditabilityAreAnsweredPerField)
     EXPECT_TRUE(m_tre->IsFieldEditable("ROW_SPACING"));
     EXPECT_FALSE(m_tre->IsFieldEditable("COUNT"));  // decides the layout
     EXPECT_EQ("F", m_tre->GetFieldEditabilityMap()->at("COUNT"));
+    EXPECT_EQ(1, m_tre->IsFieldValueInRange("BANDLBOUND_9", "00.45")) << "a field that this record has not";
     std::string errors;
     EXPECT_EQ(1, Make("OFFSET", "        00000034")->ValidateFieldValues(errors));
     EXPECT_EQ("ERROR: Missing required field OFFSET::LINE", errors);
@@ -311,8 +313,24 @@ TEST(GenericTreTest, HasItsBytesAndNoFields)
     EXPECT_STREQ("UNKNOWN", TRE::GetTRETypeString(TRE::Type{2}));
 }
 
+TEST(GenericTreTest, OfAKnownTagHasItsNameAndCode)
+{
+    const OwnedTre tre = Make("OFFSET", "short");
+    ASSERT_TRUE(tre->IsGenericTRE());
+    EXPECT_STREQ("Image Offset", tre->GetTREName());
+    EXPECT_EQ(68, tre->GetUniqueExtensionTypeID());
+    EXPECT_EQ(SupportedTreFactory::UNKNOWN, tre->GetSupportedTREFactoryCode());
+    EXPECT_STREQ("Unknown TRE.", tre->GetTREDescription());
+}
+
+TEST(GenericTreTest, HasNoByteOrderOfItsOwn)
+{
+    EXPECT_EQ(0, OpenTre().GetBinaryDataByteOrder());
+}
+
 TEST(GenericTreTest, NeedsATag)
 {
+    EXPECT_THAT(RefusalOf([] { OpenTre("SEVENCH"); }), HasSubstr("\"SEVENCH\" has more than 6 characters."));
     EXPECT_EQ("ERROR: Invalid/NULL input argument(s).", RefusalOf([] { OpenTre("   "); }));
     OpenTre one("ONE", "1");
     OpenTre two("TWO", "22");
@@ -346,8 +364,14 @@ TEST(TreXmlTest, GenericTreIsItsDataAsTextOrInBase64)
         "      </TRE>\n",
         text.Str());
     Text binary;
-    ASSERT_TRUE(Make("NOBODY", "\0\xFF\x10"s)->SerializeTREData(binary.Out(), true, ""));
-    EXPECT_EQ("<DATA base64Encoded=\"T\" editable=\"F\">AP8Q</DATA>\n", binary.Str());
+    ASSERT_TRUE(Make("NOBODY", "\0\xFF\x10"s)->SerializeTREData(binary.Out(), true, "S", 7));
+    EXPECT_THAT(binary.Str(), StartsWith("      <TRE index=\"7\" type=\"RE\" tag=\"NOBODY\""));
+    EXPECT_THAT(binary.Str(), HasSubstr(" classification=\"S\" "));
+    EXPECT_THAT(binary.Str(),
+                HasSubstr("        <DATA base64Encoded=\"T\" editable=\"F\">AP8Q</DATA>\n      </TRE>\n"));
+    Text whole;
+    ASSERT_TRUE(Make("OFFSET", "0000001200000034")->SerializeTREData(whole.Out(), false, nullptr, 0));
+    EXPECT_THAT(whole.Str(), HasSubstr("<DATA base64Encoded=\"F\" editable=\"F\">0000001200000034</DATA>"));
 }
 
 TEST(TreXmlTest, StoreIsWrittenInOrderOfAppearance)

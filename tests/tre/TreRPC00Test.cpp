@@ -21,6 +21,7 @@
 namespace ORMO::SensorModel::CSM::Tests {
 namespace {
 
+using Detail::OwnedTre;
 using Polynomial = std::array<double, TreRPC00::NUM_OF_COEFFICIENTS>;
 using Polynomials = std::array<Polynomial, 4>;
 
@@ -64,15 +65,14 @@ Polynomials Written()
     return written;
 }
 
-std::unique_ptr<TRE> MakeTre(const std::string& aData, const char* aTag = "RPC00B")
+OwnedTre MakeTre(const std::string& aData, const char* aTag = "RPC00B")
 {
-    std::unique_ptr<TRE> tre(Detail::TreMaker::Make<TreRPC00B>(
-        aData.data(), aData.size(), TRE::TRE_TYPE_CONTROLLED_EXTENSION, Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN));
-    Detail::TreMaker::SetIdentity(*tre, aTag, NITFCnst::TreCERETag::TreCodeRPC00B, SupportedTreFactory::ASDE);
-    return tre;
+    Detail::TreFault fault;
+    return Detail::TreMaker::Make(Detail::FindKnown(aTag), {.tag = aTag, .header = {}, .data = aData}, true, false,
+                                  fault);
 }
 
-const TreRPC00& AsRpc(const std::unique_ptr<TRE>& aTre)
+const TreRPC00& AsRpc(const OwnedTre& aTre)
 {
     return dynamic_cast<const TreRPC00&>(*aTre);
 }
@@ -137,7 +137,7 @@ TEST(TreRPC00Test, OneMalformedCoefficientMakesAllUnusableForGood)
         EXPECT_FALSE(Coefficients(AsRpc(tre), out)) << text;
         EXPECT_EQ(out[0][0], 7.0);
         EXPECT_EQ(out[3][19], 7.0);
-        const std::unique_ptr<TRE> copy(Detail::TreMaker::Clone<TreRPC00B>(*tre));
+        const OwnedTre copy = Detail::TreMaker::Clone(*tre);
         EXPECT_FALSE(Coefficients(AsRpc(copy), out)) << text;
         TreRPC00::CoordinateValues offsets;
         EXPECT_TRUE(AsRpc(tre).GetRPCOffsets(offsets)) << "offsets do not depend on the coefficients";
@@ -169,7 +169,7 @@ TEST(TreRPC00Test, CopiesAndAssignmentsTakeTheCoefficientsWithThem)
     ASSERT_TRUE(Coefficients(AsRpc(good), expected));
     ASSERT_FALSE(Coefficients(AsRpc(bad), out));
 
-    const std::unique_ptr<TRE> copy(Detail::TreMaker::Clone<TreRPC00B>(*good));
+    const OwnedTre copy = Detail::TreMaker::Clone(*good);
     ASSERT_TRUE(Coefficients(AsRpc(copy), out));
     EXPECT_EQ(out, expected);
 
@@ -181,8 +181,7 @@ TEST(TreRPC00Test, CopiesAndAssignmentsTakeTheCoefficientsWithThem)
     EXPECT_EQ(out, expected);
 
     const std::string block(123, '0');
-    const std::unique_ptr<TRE> other(Detail::TreMaker::Make<TreBLOCKA>(
-        block.data(), block.size(), TRE::TRE_TYPE_CONTROLLED_EXTENSION, Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN));
+    const OwnedTre other = MakeTre(block, "BLOCKA");
     *copy = *other;
     EXPECT_FALSE(Coefficients(AsRpc(copy), out)) << "a TRE of another tag has no coefficients";
 }

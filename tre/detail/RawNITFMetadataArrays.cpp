@@ -4,18 +4,18 @@
 
 #include <algorithm>
 
-namespace ORMO::SensorModel::CSM::Detail {
+namespace ORMO::SensorModel::CSM {
 
 namespace {
 
-using Arrays = RawNITFMetadataArrays;
-using Source = RawNITFMetadataSource;
+using Arrays = RawNITFMetadata::Arrays;
+using Source = RawNITFMetadata::Source;
 
 template<typename T>
 [[nodiscard]] bool Allocate(std::unique_ptr<T[]>& aArray, std::size_t aCount) noexcept
 {
     T* array = nullptr;
-    const std::size_t made = HandOutArray(&array, aCount);
+    const std::size_t made = Detail::HandOutArray(&array, aCount);
     aArray.reset(array);
     return made == aCount;
 }
@@ -156,7 +156,7 @@ void FillOutputOrder(Arrays& aArrays)
 
 }  // namespace
 
-std::size_t RawNITFMetadataArrays::FindPresent(std::string_view aTag) const noexcept
+std::size_t Arrays::FindPresent(std::string_view aTag) const noexcept
 {
     const char* const* const first = presentTags.get();
     const char* const* const last = first + presentCount;
@@ -165,12 +165,12 @@ std::size_t RawNITFMetadataArrays::FindPresent(std::string_view aTag) const noex
     return static_cast<std::size_t>((found != last && aTag == *found ? found : last) - first);
 }
 
-std::unique_ptr<RawNITFMetadataArrays> RawNITFMetadataArrays::Build(const RawNITFMetadataSource& aSource)
+std::unique_ptr<Arrays> Arrays::Build(const Source& aSource)
 {
     if (!IsConsistent(aSource)) {
         return nullptr;
     }
-    auto arrays = std::make_unique<RawNITFMetadataArrays>();
+    auto arrays = std::make_unique<Arrays>();
     if (!AllocateAll(aSource, *arrays)) {
         return nullptr;
     }
@@ -182,4 +182,4 @@ std::unique_ptr<RawNITFMetadataArrays> RawNITFMetadataArrays::Build(const RawNIT
     return arrays;
 }
 
-}  // namespace ORMO::SensorModel::CSM::Detail
+}  // namespace ORMO::SensorModel::CSM

@@ -8,25 +8,25 @@
 #include <string_view>
 #include <vector>
 
-namespace ORMO::SensorModel::CSM::Detail {
+namespace ORMO::SensorModel::CSM {
 
 /// What GetMatadata hands out.
-struct RawNITFMetadataSource
+struct RawNITFMetadata::Source
 {
     const char* dataType = nullptr;
-    const RawNITFMetadata::EditabilityMap* editability = nullptr;
-    const RawNITFMetadata::TextMap* descriptions = nullptr;
-    const RawNITFMetadata::SizeMap* sizes = nullptr;
+    const EditabilityMap* editability = nullptr;
+    const TextMap* descriptions = nullptr;
+    const SizeMap* sizes = nullptr;
     const std::vector<std::string>* tags = nullptr;
-    const RawNITFMetadata::TextMap* values = nullptr;
-    const RawNITFMetadata::SizeMap* actualSizes = nullptr;
-    const RawNITFMetadata::TextMap* longNames = nullptr;
-    const RawNITFMetadata::TextMap* types = nullptr;
+    const TextMap* values = nullptr;
+    const SizeMap* actualSizes = nullptr;
+    const TextMap* longNames = nullptr;
+    const TextMap* types = nullptr;
     const std::vector<bool>* binary = nullptr;
 };
 
 /// All arrays of one object. The texts stand in one block, each with a NUL behind it, and the arrays point into it.
-struct RawNITFMetadataArrays
+struct RawNITFMetadata::Arrays
 {
     std::size_t definedCount = 0;
     std::size_t presentCount = 0;
@@ -50,7 +50,7 @@ struct RawNITFMetadataArrays
     std::size_t FindPresent(std::string_view aTag) const noexcept;
 
     /// Null when the source is incomplete, its containers disagree, or memory is short.
-    static std::unique_ptr<RawNITFMetadataArrays> Build(const RawNITFMetadataSource& aSource);
+    static std::unique_ptr<Arrays> Build(const Source& aSource);
 };
 
-}  // namespace ORMO::SensorModel::CSM::Detail
+}  // namespace ORMO::SensorModel::CSM

@@ -1,7 +1,5 @@
 #include "tre/detail/TreLayout.h"
 
-#include "tre/tags/TypedTre.h"
-
 namespace ORMO::SensorModel::CSM::Detail {
 
 const TreLayout& LayoutForLength(const TreLayout& aFirst, std::size_t aLength) noexcept

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields/FieldTable.h"
+#include "tre/TRE.h"
 
 #include <cstdint>
 
@@ -15,8 +16,12 @@ enum class LayoutCertainty : std::uint8_t
     NotPublic   ///< no public layout: the data are kept whole as one field named DATA
 };
 
+using TreLayout = TRE::Layout;
+
+}  // namespace ORMO::SensorModel::CSM::Detail
+
 /// All that is known of one tag: what its help says and how its data are cut into fields.
-struct TreLayout
+struct ORMO::SensorModel::CSM::TRE::Layout
 {
     const char* tag;
     const char* name;        ///< long name
@@ -25,9 +30,14 @@ struct TreLayout
     const char* placement;   ///< where the standard places it
     const char* purpose;
     const char* sources;  ///< what the layout rests on, separated by "; "
-    LayoutCertainty certainty;
-    FieldTable table;
-    const TreLayout* other = nullptr;  ///< a further layout of the same tag, for records of its own fixed length
+    Detail::LayoutCertainty certainty;
+    Detail::FieldTable table;
+    const Layout* other = nullptr;  ///< a further layout of the same tag, for records of its own fixed length
 };
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+/// The layout of a tag that a record of that length has: the one with just this length, else the first.
+const TreLayout& LayoutForLength(const TreLayout& aFirst, std::size_t aLength) noexcept;
 
 }  // namespace ORMO::SensorModel::CSM::Detail

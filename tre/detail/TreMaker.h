@@ -2,6 +2,7 @@
 
 #include "tre/SupportedTreFactory.h"
 #include "tre/TRE.h"
+#include "tre/detail/TreFault.h"
 #include "tre/detail/TreLayout.h"
 
 #include <cstddef>
@@ -9,18 +10,20 @@
 #include <memory>
 #include <string_view>
 
-namespace ORMO::SensorModel::CSM::Detail {
+namespace ORMO::SensorModel::CSM {
 
-/// One tag of a group: its constants and, when it has a typed class, how to make and copy objects of it.
+class SupportedTRE;
+
+namespace Detail {
+
+/// One tag of a group: its constants and, when it has a typed class, how to make objects of it.
 struct TreEntry
 {
     const char* tag = nullptr;
     std::int32_t code = -1;
     TRE::Type type = TRE::TRE_TYPE_CONTROLLED_EXTENSION;
     const TreLayout& (*layout)() = nullptr;
-    TRE* (*make)(const char* aData, std::size_t aLength, TRE::Type aType,
-                 Util::CSMCnst::ByteOrder aByteOrder) = nullptr;
-    TRE* (*clone)(const TRE& aSource) = nullptr;
+    TRE* (*make)(TRE::Parts& aParts) = nullptr;
     bool listed = true;  ///< false for a tag that is read through another tag's class
 
     constexpr bool IsTyped() const noexcept { return make != nullptr; }
@@ -34,39 +37,69 @@ struct TreEntry
     }
 };
 
-/// The one place that constructs TREs: their constructors are closed to everybody else.
+/// Releases a TRE as its maker wants it.
+struct TreReleaser
+{
+    void operator()(TRE* aTre) const noexcept;
+};
+using OwnedTre = std::unique_ptr<TRE, TreReleaser>;
+
+/// What the registry knows of a tag.
+struct KnownTag
+{
+    const TreEntry* entry = nullptr;  ///< of the group with a fixed list that knows it
+    SupportedTreFactory::Enum group = SupportedTreFactory::UNKNOWN;
+    const SupportedTRE* special = nullptr;  ///< the special providers, when one of them makes the tag
+
+    TRE::Type TypeOr(const char* aTag, TRE::Type aUnknown) const;
+};
+
+/// The one look-up of a tag; blanks around it are left out.
+KnownTag FindKnown(const char* aTag);
+
+/// One TRE to be made.
+struct TreRecord
+{
+    const char* tag = "";
+    std::string_view header;  ///< tag and length as received; empty when they are not known
+    std::string_view data;
+    TRE::Type type = TRE::TRE_TYPE_UNKNOWN;  ///< of a generic TRE
+    Util::CSMCnst::ByteOrder order = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN;
+};
+
+/// The one place that makes TREs. Data that do not fit a layout raise nothing: the fault says why there is no typed
+/// TRE.
 class TreMaker
 {
 public:
     template<typename Class>
-    static TRE* Make(const char* aData, std::size_t aLength, TRE::Type aType, Util::CSMCnst::ByteOrder aByteOrder)
+    static TRE* Construct(TRE::Parts& aParts)
     {
-        return new Class(aData, aLength, aType, aByteOrder);
+        return new Class(aParts);
     }
 
-    template<typename Class>
-    static TRE* Clone(const TRE& aSource)
-    {
-        return new Class(static_cast<const Class&>(aSource));
-    }
-
-    /// Sets which tag and group a typed TRE is, under which it is copied and destroyed later.
-    static void SetIdentity(TRE& aTre, const char* aTag, std::int32_t aCode, SupportedTreFactory::Enum aGroup);
-    /// Says where in the file the TRE was found.
+    /// The typed TRE, or, unless `aTypedOnly`, a generic one with the fault told; null when there is neither. With
+    /// `aValidate` the values must be allowed too. Raises std::invalid_argument for a tag or data that no record can
+    /// hold.
+    static OwnedTre Make(const KnownTag& aKnown, const TreRecord& aRecord, bool aTypedOnly, bool aValidate,
+                         TreFault& aFault);
+    /// A copy of the same class; null when the maker of the source refuses.
+    static OwnedTre Clone(const TRE& aSource);
+    /// Cuts the data into the fields of the layout. Nothing is kept of data that do not fit.
+    static TreFault Fit(TRE::Parts& aParts, const TreLayout& aLayout, Util::CSMCnst::ByteOrder aOrder);
+    /// Says where in the file the TRE was found; the name must live as long as the process.
     static void SetPlace(TRE& aTre, const char* aArea, std::uint64_t aFileOffset) noexcept;
-    static std::unique_ptr<TRE> MakeGeneric(const char* aTag, const char* aData, std::size_t aLength, TRE::Type aType);
-    static std::unique_ptr<TRE> CloneGeneric(const TRE& aSource);
+    /// Sets who made the TRE of a special provider.
+    static void SetMaker(TRE& aTre, SupportedTreFactory::Enum aMaker) noexcept;
+    /// Holds every field against its row; the findings start from `aPlace`, which says segment and the like.
+    static void Check(const TRE& aTre, Finding aPlace, FindingList& aFindings);
 };
 
 /// A tag with a typed class.
 template<typename Class>
 constexpr TreEntry Typed(const char* aTag, std::int32_t aCode) noexcept
 {
-    return TreEntry{.tag = aTag,
-                    .code = aCode,
-                    .layout = &Class::Layout,
-                    .make = &TreMaker::Make<Class>,
-                    .clone = &TreMaker::Clone<Class>};
+    return TreEntry{.tag = aTag, .code = aCode, .layout = &Class::Layout, .make = &TreMaker::Construct<Class>};
 }
 
 /// A tag that the group knows but has no typed class for: its TREs stay generic.
@@ -75,4 +108,5 @@ constexpr TreEntry Untyped(const char* aTag, std::int32_t aCode) noexcept
     return TreEntry{.tag = aTag, .code = aCode};
 }
 
-}  // namespace ORMO::SensorModel::CSM::Detail
+}  // namespace Detail
+}  // namespace ORMO::SensorModel::CSM

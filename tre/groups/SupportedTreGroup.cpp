@@ -2,12 +2,12 @@
 
 #include "fields/Number.h"
 #include "foundation/CSMExceptions.h"
-#include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
+#include "foundation/detail/HandOut.h"
 #include "tre/detail/TreMaker.h"
+#include "tre/detail/TreParts.h"
 
 #include <algorithm>
-#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -60,12 +60,12 @@ bool SupportedTreGroup::CloneTRE(const TRE& aSource, TRE** aCopy) const
         return false;
     }
     *aCopy = nullptr;
-    const TreEntry* const entry = FindEntry(aSource.GetTag());
-    if (entry == nullptr || !entry->IsTyped() || aSource.GetSupportedTREFactoryCode() != m_code) {
+    const TRE::Parts& source = TRE::Parts::Of(aSource);
+    if (source.layout == nullptr || source.group != m_code || source.maker != SupportedTreFactory::UNKNOWN) {
         return false;
     }
-    *aCopy = entry->clone(aSource);
-    return true;
+    *aCopy = Detail::TreMaker::Clone(aSource).release();
+    return *aCopy != nullptr;
 }
 
 bool SupportedTreGroup::CreateTRE(const char* aTag, const char* aData, TRE** aTre, char** aErrors, std::size_t aLength,
@@ -75,33 +75,30 @@ bool SupportedTreGroup::CreateTRE(const char* aTag, const char* aData, TRE** aTr
         return false;
     }
     *aTre = nullptr;
+    if (aErrors != nullptr) {
+        *aErrors = nullptr;
+    }
     if (aData == nullptr && aLength != 0) {
         throw std::invalid_argument("ERROR: Invalid/NULL input argument(s).");
     }
-    const std::string_view tag = Trimmed(aTag);
+    const std::string tag(Trimmed(aTag));
     const TreEntry* const entry = FindEntry(tag);
     if (entry == nullptr) {
         const std::string message =
-            "ERROR: TRE \"" + std::string(tag) + "\" does not belong to the " + m_description + " TRE Group.";
+            "ERROR: TRE \"" + tag + "\" does not belong to the " + m_description + " TRE Group.";
         throw UnsupportedTREException(message.c_str(), "SupportedTreGroup::CreateTRE");
     }
     if (!entry->IsTyped()) {
         return false;
     }
-    std::unique_ptr<TRE> tre(entry->make(aData, aLength, entry->type, aByteOrder));
-    Detail::TreMaker::SetIdentity(*tre, entry->tag, entry->code, m_code);
-    if (aValidate) {
-        std::string problems;
-        const int count = tre->ValidateFieldValues(problems);
-        if (count > 0) {
-            if (aErrors != nullptr) {
-                Util::CSMUtilString::Copy(problems.c_str(), aErrors);
-            }
-            const std::string message =
-                "ERROR: The field value(s) of " + std::to_string(count) + " field(s) is/are invalid.";
-            throw InitializationException(message.c_str(),
-                                          ("Tre" + std::string(tag) + "::Init" + std::string(tag)).c_str());
+    Detail::TreFault fault;
+    Detail::OwnedTre tre = Detail::TreMaker::Make(
+        {entry, m_code, nullptr}, {tag.c_str(), {}, {aData, aLength}, entry->type, aByteOrder}, true, aValidate, fault);
+    if (tre == nullptr) {
+        if (fault.kind == Detail::TreFault::Kind::Values) {
+            Detail::HandOutOrThrow(fault.text, aErrors);
         }
+        fault.Throw(tag);
     }
     *aTre = tre.release();
     return true;
@@ -109,7 +106,8 @@ bool SupportedTreGroup::CreateTRE(const char* aTag, const char* aData, TRE** aTr
 
 bool SupportedTreGroup::Destroy(TRE** aTre) const
 {
-    if (aTre == nullptr || *aTre == nullptr || (*aTre)->GetSupportedTREFactoryCode() != m_code) {
+    if (aTre == nullptr || *aTre == nullptr || TRE::Parts::Of(**aTre).group != m_code ||
+        TRE::Parts::Of(**aTre).maker != SupportedTreFactory::UNKNOWN) {
         return false;
     }
     delete *aTre;

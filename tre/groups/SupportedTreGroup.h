@@ -25,6 +25,7 @@ public:
     const TypeMap& GetTRETypeMap() const override;
     void GetTRETypes(const char**& aTags, const TRE::Type*& aTypes, std::size_t& aCount) const override;
 
+    SupportedTreFactory::Enum GetCode() const noexcept { return m_code; }
     /// The group's description as messages quote it.
     const char* GetDescription() const noexcept { return m_description; }
     /// The entry of a tag without trailing blanks, or null.

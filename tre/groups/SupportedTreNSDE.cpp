@@ -1,12 +1,14 @@
 #include "tre/groups/SupportedTreNSDE.h"
 
-#include "foundation/CSMException.h"
+#include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "isd/SpecialOrmoDLLsLoader.h"
 #include "isd/SpecialOrmoISDsDLL.h"
 #include "tre/detail/TreMaker.h"
+#include "tre/detail/TreParts.h"
 
 #include <exception>
+#include <new>
 #include <stdexcept>
 
 namespace ORMO::SensorModel::CSM {
@@ -42,10 +44,23 @@ void TakeOver(char** aText, Util::CSMUtilWindows::ModuleHandle aLibrary)
     }
 }
 
-/// Notes on a TRE from which provider it is: that one copies and destroys it.
-void Claim(TRE& aTre, const char* aTag, SupportedTreFactory::Enum aGroup)
+/// Raises what a provider threw: exceptions of other kinds than callers know as one of this library.
+[[noreturn]] void ThrowKnown(const std::exception_ptr& aThrown)
 {
-    Detail::TreMaker::SetIdentity(aTre, aTag, aTre.GetUniqueExtensionTypeID(), aGroup);
+    constexpr const char* SOURCE = "SupportedTreNSDE::CreateTRE";
+    try {
+        std::rethrow_exception(aThrown);
+    } catch (const CSMException&) {
+        throw;
+    } catch (const std::invalid_argument&) {
+        throw;
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception& exception) {
+        throw InitializationException(exception.what(), SOURCE);
+    } catch (...) {
+        throw InitializationException("ERROR: A special TRE provider threw an unknown exception.", SOURCE);
+    }
 }
 
 }  // namespace
@@ -119,12 +134,17 @@ bool SupportedTreNSDE::AbleToCreateTRE(const char* aTag, SupportedTreFactory::En
 
 bool SupportedTreNSDE::CloneTRE(const TRE& aSource, TRE** aCopy) const
 {
-    const Provider* const provider = ProviderOf(aSource.GetSupportedTREFactoryCode());
+    const auto maker = TRE::Parts::Of(aSource).maker;
+    const Provider* const provider = ProviderOf(maker);
+    if (aCopy == nullptr) {
+        return false;
+    }
+    *aCopy = nullptr;
     if (provider == nullptr || !Asked(false, [&] { return provider->group->CloneTRE(aSource, aCopy); }) ||
         *aCopy == nullptr) {
         return false;
     }
-    Claim(**aCopy, aSource.GetTag(), aSource.GetSupportedTREFactoryCode());
+    Detail::TreMaker::SetMaker(**aCopy, maker);
     return true;
 }
 
@@ -133,31 +153,31 @@ bool SupportedTreNSDE::CreateTRE(const char* aTag, const char* aData, TRE** aTre
                                  SupportedTreFactory::Enum aGroup) const
 {
     const Provider* const provider = ProviderOf(aGroup);
-    if (provider == nullptr) {
+    if (provider == nullptr || aTre == nullptr) {
         return false;
     }
+    *aTre = nullptr;
+    if (aData == nullptr && aLength != 0) {
+        throw std::invalid_argument("ERROR: Invalid/NULL input argument(s).");
+    }
     bool isMade = false;
-    std::exception_ptr known;
+    std::exception_ptr thrown;
     try {
         isMade = provider->group->CreateTRE(aTag, aData, aTre, aErrors, aLength, aValidate, aByteOrder, aGroup);
-    } catch (const CSMException&) {
-        known = std::current_exception();
-    } catch (const std::invalid_argument&) {
-        known = std::current_exception();
-    } catch (...) {  // what no caller knows how to take means that the TRE stays generic
-        isMade = false;
+    } catch (...) {
+        thrown = std::current_exception();
     }
     TakeOver(aErrors, provider->library);
     if (isMade && *aTre != nullptr) {
-        Claim(**aTre, aTag, aGroup);
+        Detail::TreMaker::SetMaker(**aTre, aGroup);
         return true;
     }
     if (*aTre != nullptr) {
         Asked(false, [&] { return provider->group->Destroy(aTre); });
         *aTre = nullptr;
     }
-    if (known != nullptr) {
-        std::rethrow_exception(known);
+    if (thrown != nullptr) {
+        ThrowKnown(thrown);
     }
     return false;
 }
@@ -167,7 +187,7 @@ bool SupportedTreNSDE::Destroy(TRE** aTre) const
     if (aTre == nullptr || *aTre == nullptr) {
         return false;
     }
-    const Provider* const provider = ProviderOf((*aTre)->GetSupportedTREFactoryCode());
+    const Provider* const provider = ProviderOf(TRE::Parts::Of(**aTre).maker);
     return provider != nullptr && Asked(false, [&] { return provider->group->Destroy(aTre); });
 }
 

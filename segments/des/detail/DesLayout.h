@@ -1,19 +1,16 @@
 #pragma once
 
 #include "fields/FieldTable.h"
-
-namespace ORMO::SensorModel::CSM::Detail {
+#include "segments/des/DesFieldSet.h"
 
 /// All that is known of the subheader fields or the data of one DES type.
-struct DesLayout
+struct ORMO::SensorModel::CSM::DesFieldSet::Layout
 {
     const char* type;     ///< the identifier: DESID or DESTAG without blanks
     const char* name;     ///< long name
     const char* lengths;  ///< the lengths in bytes that the type can have, for messages
     const char* owner;    ///< the class that reads it, for messages
-    FieldTable table;
+    Detail::FieldTable table;
     const char* misfit = "";   ///< stands before the text of bytes that do not fit
     const char* leading = "";  ///< a required field whose lack has a text of its own
 };
-
-}  // namespace ORMO::SensorModel::CSM::Detail
