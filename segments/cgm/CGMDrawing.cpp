@@ -4,7 +4,7 @@
 #include "segments/cgm/detail/CgmElements.h"
 #include "segments/cgm/detail/CgmGeometry.h"
 #include "segments/cgm/detail/CgmPrimitiveParts.h"
-#include "segments/cgm/detail/SvgElement.h"
+#include "segments/detail/SvgElement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -256,16 +256,12 @@ bool IsText(const NITFCGMGraphicPrimitive& aPrimitive)
 
 void CGMDrawing::AppendSvg(const NITFCGMMetaFile& aMetafile, double aColumn, double aRow, std::string& aSvg)
 {
-    std::string place = "translate(";
-    AppendSvgNumber(aColumn, place);
-    place += ' ';
-    AppendSvgNumber(aRow, place);
-    place += ')';
+    std::string place = SvgTranslation(aColumn, aRow);
     if (const CgmPoint directions = DirectionsOf(aMetafile); directions.x < 0 || directions.y < 0) {
         place += directions.x < 0 ? " scale(-1 " : " scale(1 ";
         place += directions.y < 0 ? "-1)" : "1)";
     }
-    aSvg += "<g transform=\"" + place + "\">\n";
+    SvgElement("g", aSvg).Attribute("transform", place).Open();
     for (const NITFCGMGraphicPrimitive* const primitive : aMetafile.GetAllGraphicalPrimitiveElements()) {
         if (IsText(*primitive)) {
             DrawText(static_cast<const CGMGraphicPrimitiveText&>(*primitive), aSvg);

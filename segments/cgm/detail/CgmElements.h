@@ -109,7 +109,10 @@ struct CgmElement
     unsigned leastPoints = 0;         ///< for the parameter of kind Points
     MakeCgmPrimitive make = nullptr;  ///< primitives only
 
-    constexpr bool IsPrimitive() const noexcept { return make != nullptr; }
+    constexpr bool IsPrimitive() const noexcept
+    {
+        return elementClass == CGMCnst::BINARY_ENCODING_ELEMENT_GRAPHICAL_PREMITIVE;
+    }
     constexpr bool IsAttribute() const noexcept { return slots.count != 0 && !IsPrimitive(); }
 };
 

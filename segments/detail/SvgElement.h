@@ -8,8 +8,10 @@ namespace ORMO::SensorModel::CSM::Detail {
 /// Appends a number with at most three decimals and without trailing zeros.
 void AppendSvgNumber(double aNumber, std::string& aOut);
 
-/// Writes one SVG element: the start tag with its attributes, then the end. Nothing but one of the two Close
-/// operations ends it.
+/// "translate(x y)".
+std::string SvgTranslation(double aX, double aY);
+
+/// Writes one SVG element: the start tag with its attributes, then the end.
 class SvgElement
 {
 public:
@@ -22,6 +24,8 @@ public:
     void Close();
     /// With Latin-1 content; bytes that XML cannot carry become '?'.
     void Close(std::string_view aContent);
+    /// Leaves the element open for others.
+    void Open();
 
 private:
     std::string_view m_name;

@@ -1,4 +1,4 @@
-#include "segments/cgm/detail/SvgElement.h"
+#include "segments/detail/SvgElement.h"
 
 #include "fields/Xml.h"
 
@@ -15,6 +15,15 @@ void AppendSvgNumber(double aNumber, std::string& aOut)
     text.remove_suffix(text.size() - 1 - text.find_last_not_of('0'));
     text.remove_suffix(text.ends_with('.') ? 1 : 0);
     aOut += text == "-0" ? "0" : text;
+}
+
+std::string SvgTranslation(double aX, double aY)
+{
+    std::string text = "translate(";
+    AppendSvgNumber(aX, text);
+    text += ' ';
+    AppendSvgNumber(aY, text);
+    return text += ')';
 }
 
 SvgElement::SvgElement(std::string_view aName, std::string& aOut) : m_name(aName), m_out(aOut)
@@ -51,6 +60,11 @@ SvgElement& SvgElement::Colour(std::string_view aName, const int* aColour)
 void SvgElement::Close()
 {
     m_out += "/>\n";
+}
+
+void SvgElement::Open()
+{
+    m_out += ">\n";
 }
 
 void SvgElement::Close(std::string_view aContent)
