@@ -4,6 +4,7 @@
 #include "foundation/detail/Ascii.h"
 #include "foundation/detail/Lazy.h"
 #include "tre/detail/TreMaker.h"
+#include "tre/detail/TreParts.h"
 
 #include <algorithm>
 #include <new>
@@ -19,15 +20,19 @@ namespace {
 struct TagMap
 {
     TREStore::Map map;
-    std::vector<std::unique_ptr<const std::string>> keys;
+    std::unique_ptr<char[]> keys;
 
     explicit TagMap(const std::vector<TRE*>& aTres)
+        : keys(std::make_unique<char[]>(aTres.size() * sizeof(TRE::Parts::tag)))
     {
+        char* next = keys.get();
         for (TRE* const tre : aTres) {
             auto place = map.find(tre->GetTag());
             if (place == map.end()) {
-                keys.push_back(std::make_unique<const std::string>(tre->GetTag()));
-                place = map.try_emplace(keys.back()->c_str()).first;
+                const std::string_view tag(tre->GetTag());
+                std::copy(tag.begin(), tag.end(), next);  // the array is zeroed, so the NUL is there
+                place = map.try_emplace(next).first;
+                next += tag.size() + 1;
             }
             place->second.push_back(tre);
         }
