@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include <cpl_conv.h>
 #include <cpl_error.h>
 #include <gdal_priv.h>
 
@@ -25,16 +26,27 @@ void CopyReason(std::string_view aText, char* aReason, std::size_t aSize) noexce
 }
 
 /// Keeps GDAL silent while it works and remembers the first thing that it would have said: what follows is often a
-/// consequence.
+/// consequence. Decoders that worked in threads of their own would neither be heard nor kept silent.
 class Listener
 {
 public:
-    Listener() { CPLPushErrorHandlerEx(&Listener::Hear, this); }
-    ~Listener() { CPLPopErrorHandler(); }
+    Listener()
+    {
+        CPLPushErrorHandlerEx(&Listener::Hear, this);
+        CPLSetThreadLocalConfigOption(THREADS, "1");
+    }
+    ~Listener()
+    {
+        CPLSetThreadLocalConfigOption(THREADS, m_threads.empty() ? nullptr : m_threads.c_str());
+        CPLPopErrorHandler();
+    }
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
 
-    std::string_view Heard() const noexcept { return m_heard.empty() ? "GDAL gives no reason" : m_heard; }
+    std::string_view Heard() const noexcept
+    {
+        return m_heard.empty() ? std::string_view("GDAL gives no reason") : std::string_view(m_heard);
+    }
 
 private:
     static void Hear(CPLErr aClass, CPLErrorNum, const char* aText)
@@ -45,7 +57,10 @@ private:
         }
     }
 
+    static constexpr const char* THREADS = "GDAL_NUM_THREADS";
+
     std::string m_heard;
+    std::string m_threads = CPLGetThreadLocalConfigOption(THREADS, "");
 };
 
 GDALDataType TypeOf(OrmoSampleType aType) noexcept

@@ -111,6 +111,11 @@ PixelAnswer ImagePixels::OpenDecoder(std::shared_ptr<const GdalRaster>& aRaster)
     if (m_source == nullptr || m_source->Path().empty()) {
         return {Reader::STATUS_NO_FILE, "ERROR: Compressed pixels are read from a named file, and there is none."};
     }
+    if (m_layout.compression == "I1") {  // GDAL would hand its bytes out as if they were pixels
+        return {Reader::STATUS_UNSUPPORTED_COMPRESSION, "ERROR: Compression " + NameOf(m_layout.compression) +
+                                                            " of image segment " + std::to_string(m_image) +
+                                                            " cannot be decoded."};
+    }
     const std::lock_guard lock(m_guard);
     if (m_raster == nullptr) {
         bool isDriverMissing = false;

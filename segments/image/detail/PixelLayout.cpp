@@ -57,7 +57,8 @@ bool PixelLayout::IsSound(std::string& aWhyNot) const
     std::uint64_t blocks = 0;
     std::uint64_t width = 0;
     std::uint64_t height = 0;
-    if (!Product({blockRows, blockColumns, bands, bits}, blockBits) ||
+    // Eight bits more than a pixel has leave room for what fills the last byte of a band.
+    if (!Product({blockRows, blockColumns, bands, std::uint64_t{bits} + 8}, blockBits) ||
         !Product({blocksPerRow, blocksPerColumn, bands}, blocks) || !Product({blocksPerRow, blockColumns}, width) ||
         !Product({blocksPerColumn, blockRows}, height)) {
         aWhyNot = "ERROR: The blocks are larger than any file.";

@@ -92,28 +92,26 @@ UncompressedPixels::UncompressedPixels(const PixelLayout& aLayout, const ByteSou
     const std::uint64_t bits = aLayout.bits;
     const std::uint64_t width = aLayout.blockColumns;
     const std::uint64_t height = aLayout.blockRows;
-    std::uint64_t bandsInBlock = aLayout.bands;
-    switch (aLayout.mode) {
-        case 'P':
-            m_columnStride = bandsInBlock * bits;
-            m_rowStride = width * m_columnStride;
-            m_bandStride = bits;
-            break;
-        case 'R':
-            m_columnStride = bits;
-            m_bandStride = width * bits;
-            m_rowStride = bandsInBlock * m_bandStride;
-            break;
-        case 'S':
-            bandsInBlock = 1;
-            [[fallthrough]];
-        default:
-            m_columnStride = bits;
-            m_rowStride = width * bits;
-            m_bandStride = aLayout.mode == 'S' ? 0 : height * m_rowStride;
-            break;
+    const std::uint64_t bands = aLayout.bands;
+    const auto inWholeBytes = [](std::uint64_t aBits) { return (aBits + 7) / 8 * 8; };
+    m_columnStride = bits;
+    m_rowStride = width * bits;
+    // In modes B and S each band of a block begins with a whole byte.
+    m_bandStride = inWholeBytes(height * m_rowStride);
+    m_blockBytes = bands * m_bandStride / 8;
+    if (aLayout.mode == 'S') {
+        m_blockBytes = m_bandStride / 8;
+        m_bandStride = 0;
+    } else if (aLayout.mode == 'P') {
+        m_columnStride = bands * bits;
+        m_rowStride = width * m_columnStride;
+        m_bandStride = bits;
+        m_blockBytes = inWholeBytes(height * m_rowStride) / 8;
+    } else if (aLayout.mode == 'R') {
+        m_bandStride = m_rowStride;
+        m_rowStride = bands * m_bandStride;
+        m_blockBytes = inWholeBytes(height * m_rowStride) / 8;
     }
-    m_blockBytes = (width * height * bandsInBlock * bits + 7) / 8;
 }
 
 PixelAnswer UncompressedPixels::Read(const PixelWindow& aWindow, char* aOut) const

@@ -44,6 +44,7 @@ public:
             ++m_count;
         }
     }
+    void EndByte() { m_count = 0; }
     /// Ends a block: the next one begins with a whole byte.
     std::string Take()
     {
@@ -74,6 +75,7 @@ inline std::string BlockBytes(const Detail::PixelLayout& aLayout, std::uint64_t 
                 for (std::uint64_t i = 0; i != rows * columns; ++i) {
                     put(band, i / columns, i % columns);
                 }
+                writer.EndByte();
             }
             break;
         case 'P':
