@@ -87,7 +87,8 @@ void FieldRecord::Check(const Finding& aPlace, FindingList& aFindings) const
         if (verdict == Verdict::Good) {
             continue;
         }
-        const auto level = row.need == Need::Optional ? Finding::Level::Warning : Finding::Level::Error;
+        const bool mild = row.need == Need::Optional || (verdict == Verdict::Blank && row.oftenBlank);
+        const auto level = mild ? Finding::Level::Warning : Finding::Level::Error;
         aFindings.AddMade(level, [&](FindingList& aList) {
             Finding finding = aPlace;
             finding.level = level;
@@ -122,6 +123,9 @@ void FieldRecord::Describe(const WalkResult& aResult, Finding& aFinding) const
         case Fault::LengthTooSmall:
             aFinding.detail = "The value is below " + wanted + ".";
             break;
+        case Fault::UnknownCode:
+            aFinding.detail = "The code is not known, so the width of what it describes is not known either.";
+            break;
         default:
             aFinding.detail = "The value is not a number.";
             break;
@@ -146,7 +150,7 @@ std::size_t FieldRecord::AppendXml(FieldNaming aNaming, const char* aIndent, con
 
 const char* FaultSentence(const FieldRow& aRow, Verdict aVerdict) noexcept
 {
-    if (aRow.need == Need::Optional) {
+    if (aRow.need == Need::Optional || (aVerdict == Verdict::Blank && aRow.oftenBlank)) {
         return CSMMsg::Warn::FIELD_VALUE_OUT_OF_VALID_RANGE;
     }
     if (aVerdict == Verdict::Blank) {

@@ -84,10 +84,11 @@ struct FieldRow
     const char* sizeTag = nullptr;  ///< the field that holds the width
     std::int32_t sizeAdjust = 0;    ///< added to the value of sizeTag or to the count
     std::uint64_t number = 0;       ///< times of a fixed repeat, bound of AtLeast, mask of AnyBit
-    bool rest = false;              ///< the field takes all bytes that are left
+    bool rest = false;              ///< the field takes all bytes that are left; a repeat goes on while there are any
     CountFunction count = nullptr;  ///< width or count by function
     TestFunction condition = nullptr;
     const char* alias = nullptr;  ///< another common spelling, accepted on look-up
+    bool oftenBlank = false;      ///< a blank is against the rule but usual: it is worth a warning, not an error
 
     constexpr bool IsField() const noexcept { return kind == RowKind::Field; }
     constexpr bool IsGroup() const noexcept { return kind == RowKind::Repeat || kind == RowKind::When; }
@@ -104,6 +105,20 @@ struct FieldRow
     {
         FieldRow row = *this;
         row.locked = true;
+        return row;
+    }
+    /// The same row, blank in many real files though its standard allows no blanks.
+    constexpr FieldRow OftenBlank() const noexcept
+    {
+        FieldRow row = *this;
+        row.oftenBlank = true;
+        return row;
+    }
+    /// The same row of a computed width, which is blamed on the named field when it cannot be worked out.
+    constexpr FieldRow By(const char* aTag) const noexcept
+    {
+        FieldRow row = *this;
+        row.sizeTag = aTag;
         return row;
     }
     /// The same row, found by another spelling too.
@@ -189,6 +204,15 @@ constexpr FieldRow RepeatBy(const char* aLabel, CountFunction aCount, const char
     row.tag = aTag;
     row.label = aLabel;
     row.count = aCount;
+    return row;
+}
+
+/// The rows up to End() stand as often as there are bytes left; only whole turns are good.
+constexpr FieldRow RepeatToEnd() noexcept
+{
+    FieldRow row;
+    row.kind = RowKind::Repeat;
+    row.rest = true;
     return row;
 }
 

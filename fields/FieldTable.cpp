@@ -148,7 +148,7 @@ bool WidthRange(const FieldTable& aTable, std::string_view aTag, std::size_t& aS
     const FieldRow& row = aTable.Row(index);
     aSmallest = row.width;
     aLargest = row.width;
-    if (row.width == 0 && row.sizeTag != nullptr) {
+    if (row.width == 0 && row.count == nullptr && row.sizeTag != nullptr) {
         const FieldRow& size = aTable.Row(aTable.Link(index).ref);
         const std::uint64_t base = size.IsBinary() ? 256 : 10;
         std::uint64_t largest = 0;

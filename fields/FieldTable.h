@@ -209,7 +209,7 @@ constexpr bool IsComplete(const FieldRow& aRow) noexcept
         case RowKind::Field:
             return named && (aRow.width != 0 || aRow.sizeTag != nullptr || aRow.count != nullptr || aRow.rest);
         case RowKind::Repeat:
-            return aRow.number <= MOST_TIMES && (named || aRow.number != 0 || aRow.count != nullptr);
+            return aRow.number <= MOST_TIMES && (named || aRow.number != 0 || aRow.count != nullptr || aRow.rest);
         case RowKind::When:
             return named || aRow.condition != nullptr;
         case RowKind::End:

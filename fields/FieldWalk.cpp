@@ -166,7 +166,8 @@ bool FieldWalk::Width(std::size_t aRow, std::uint64_t& aOut)
         return true;
     }
     if (row.count != nullptr) {
-        return row.count(m_context, aOut) || Fail(Fault::NotANumber, aRow, 0);
+        return row.count(m_context, aOut) || (row.sizeTag == nullptr ? Fail(Fault::NotANumber, aRow, 0)
+                                                                     : FailAtReference(Fault::UnknownCode, aRow, 0));
     }
     std::uint64_t size = 0;
     if (!CountOf(m_table.Link(aRow).ref, size)) {
@@ -199,6 +200,9 @@ bool FieldWalk::RepeatCount(std::size_t aRow, std::uint64_t& aOut)
 
 bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
 {
+    if (m_table.Row(aRow).rest) {
+        return RunToEnd(aRow, aDepth);
+    }
     std::uint64_t count = 0;
     if (!RepeatCount(aRow, count)) {
         return false;
@@ -238,6 +242,22 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
                 (++emptyTurns > MOST_EMPTY_TURNS || ++m_emptyTurns > MOST_EMPTY_TURNS + m_context.BytesRead())) {
                 return FailAtReference(Fault::CountBeyondData, aRow, count);
             }
+        }
+    }
+    m_turns[aDepth] = 0;
+    m_store.Forget(aRow, link.end);
+    return true;
+}
+
+bool FieldWalk::RunToEnd(std::size_t aRow, std::size_t aDepth)
+{
+    const RowLink& link = m_table.Link(aRow);
+    std::uint32_t turn = 0;
+    for (std::size_t left = 0; m_cursor.Remaining() != 0 && m_cursor.Remaining() != left;) {
+        left = m_cursor.Remaining();
+        m_turns[aDepth] = ++turn;
+        if (!Run(aRow + 1, link.end, aDepth + 1)) {
+            return false;
         }
     }
     m_turns[aDepth] = 0;

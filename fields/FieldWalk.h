@@ -17,7 +17,8 @@ enum class Fault : std::uint8_t
     Short,            ///< a field ends beyond the data
     NotANumber,       ///< a count, length or bound is not a number
     CountBeyondData,  ///< a count promises more than the bytes left can hold
-    LengthTooSmall    ///< a length does not cover the fields that it counts
+    LengthTooSmall,   ///< a length does not cover the fields that it counts
+    UnknownCode       ///< a code that decides a width has no meaning here
 };
 
 /// How a walk ended: whether all rows were read, and else the field, its bytes and its place.
@@ -87,6 +88,7 @@ private:
     [[nodiscard]] bool Run(std::size_t aFirst, std::size_t aLast, std::size_t aDepth);
     [[nodiscard]] bool ReadField(std::size_t aRow);
     [[nodiscard]] bool RunRepeat(std::size_t aRow, std::size_t aDepth);
+    [[nodiscard]] bool RunToEnd(std::size_t aRow, std::size_t aDepth);
     [[nodiscard]] bool Width(std::size_t aRow, std::uint64_t& aOut);
     [[nodiscard]] bool RepeatCount(std::size_t aRow, std::uint64_t& aOut);
     [[nodiscard]] bool Holds(std::size_t aRow, bool& aOut);

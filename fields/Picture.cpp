@@ -86,9 +86,11 @@ public:
     void Pass(const Piece& aPiece) noexcept;
 
 private:
-    bool CharacterMatches(char aPicture, char aCharacter) const noexcept;
+    bool CharacterMatches(char aPicture, char aCharacter) noexcept;
 
     bool m_afterPoint = false;  // digits are a fraction of the piece before, up to the next sign or letter
+    bool m_isTime = false;      // a fraction may end in hyphens
+    bool m_isUnknown = false;   // it has, so nothing but hyphens may follow
     bool m_isAngle = false;     // minutes and seconds are parts of a degree
     bool m_isFull = false;      // the degrees are at their bound, so nothing but zeros may follow
 };
@@ -111,7 +113,7 @@ Piece PictureReader::Next(std::string_view aPicture) const noexcept
         return {known ? PieceKind::Degrees : PieceKind::Broken, run, 0,
                 run.size() == 3 ? HIGHEST_LONGITUDE : HIGHEST_LATITUDE};
     }
-    constexpr std::string_view KNOWN = "XY+nefzBJKLTZ.-: ";
+    constexpr std::string_view KNOWN = "XY+nefzBJKLTZx.-: ";
     return KNOWN.find(first) != std::string_view::npos ? character : Piece{PieceKind::Broken, character.text, 0, 0};
 }
 
@@ -121,6 +123,7 @@ void PictureReader::Pass(const Piece& aPiece) noexcept
     m_afterPoint = first == '.' || (m_afterPoint && aPiece.kind == PieceKind::Character &&
                                     std::string_view("sSdnefz").find(first) != std::string_view::npos);
     m_isAngle = m_isAngle || aPiece.kind == PieceKind::Degrees;
+    m_isTime = m_isTime || (aPiece.kind == PieceKind::Number && !m_isAngle);
 }
 
 bool PictureReader::Matches(const Piece& aPiece, std::string_view aText) noexcept
@@ -146,7 +149,7 @@ bool PictureReader::Matches(const Piece& aPiece, std::string_view aText) noexcep
     return CharacterMatches(aPiece.text.front(), aText.front());
 }
 
-bool PictureReader::CharacterMatches(char aPicture, char aCharacter) const noexcept
+bool PictureReader::CharacterMatches(char aPicture, char aCharacter) noexcept
 {
     switch (aPicture) {
         case 'X':
@@ -162,7 +165,11 @@ bool PictureReader::CharacterMatches(char aPicture, char aCharacter) const noexc
         case 's':
         case 'S':
         case 'd':
-            return m_isFull ? aCharacter == '0' : IsDigit(aCharacter);
+            m_isUnknown = m_isUnknown || (m_isTime && m_afterPoint && aCharacter == '-');
+            return m_isUnknown ? aCharacter == '-' : m_isFull ? aCharacter == '0' : IsDigit(aCharacter);
+        case 'x':
+            return IsDigit(aCharacter) || (aCharacter >= 'A' && aCharacter <= 'F') ||
+                   (aCharacter >= 'a' && aCharacter <= 'f');
         case 'B':
         case 'J':
         case 'K':

@@ -42,6 +42,7 @@ constexpr GroupRow GROUPS[] = {
     {SupportedTreFactory::ResearchSDE, &InstanceOf<SupportedTreResearchSDE>},
     {SupportedTreFactory::RPF, &InstanceOf<SupportedTreRPF>},
     {SupportedTreFactory::RSM, &InstanceOf<SupportedTreRSM>},
+    {SupportedTreFactory::Public, &InstanceOf<SupportedTrePublic>},
 };
 
 /// A tag of the groups with a fixed list.

@@ -24,7 +24,8 @@ public:
         PIAE = 8,
         ResearchSDE = 9,
         RPF = 10,
-        RSM = 11
+        RSM = 11,
+        Public = 12  ///< publicly documented extensions besides those of the other groups
     };
 
     SupportedTreFactory() = delete;

@@ -52,6 +52,9 @@ std::string WidthText(const FieldRow& aRow)
     if (aRow.width != 0) {
         return std::to_string(aRow.width) + (aRow.width == 1 ? " byte" : " bytes");
     }
+    if (aRow.count != nullptr && aRow.sizeTag != nullptr) {
+        return std::string("width by ") + aRow.sizeTag;
+    }
     if (aRow.sizeTag != nullptr) {
         return Adjusted(aRow.sizeTag, aRow.sizeAdjust) + " bytes";
     }
@@ -61,6 +64,9 @@ std::string WidthText(const FieldRow& aRow)
 /// What a mark says, as a person would put it.
 std::string MarkText(const FieldRow& aRow)
 {
+    if (aRow.kind == RowKind::Repeat && aRow.rest) {
+        return "repeat to the end of the data:";
+    }
     if (aRow.kind == RowKind::Repeat) {
         return "repeat " +
                (aRow.number != 0        ? std::to_string(aRow.number)
@@ -113,10 +119,12 @@ std::string ValuesText(const char* aValues)
     return text;
 }
 
-void AppendLayout(const FieldTable& aTable, std::string& aText)
+/// What is known of a layout: its rows, indented as they nest, with the values that have a meaning, and its sources.
+void AppendLayout(const Detail::TreLayout& aLayout, std::string& aText)
 {
+    aText += Detail::LayoutHelp(aLayout) + "\nFields:\n";
     std::string indent = "  ";
-    for (const FieldRow& row : aTable.Rows()) {
+    for (const FieldRow& row : aLayout.table.Rows()) {
         if (row.kind == RowKind::End) {
             indent.resize(indent.size() - 2);
         } else if (row.IsGroup()) {
@@ -125,8 +133,12 @@ void AppendLayout(const FieldTable& aTable, std::string& aText)
         } else {
             aText += indent + row.tag + "  " + row.label + " [" + WidthText(row) + ", " + Detail::NeedLetter(row.need);
             aText += *row.unit == '\0' ? "]\n" : std::string(", ") + row.unit + "]\n";
+            if (std::string_view(row.values).find('=', 1) != std::string_view::npos) {
+                aText += indent + "    " + ValuesText(row.values) + '\n';
+            }
         }
     }
+    aText += '\n' + Detail::SourcesHelp(aLayout);
 }
 
 }  // namespace
@@ -160,9 +172,12 @@ bool TRECatalogue::DescribeTag(const char* aTag, std::string& aText)
         return true;
     }
     const Detail::TreLayout& layout = found.entry->layout();
-    aText = Detail::TagHelp(layout, found.entry->tag, registered, found.group->GetDescription());
-    aText += "\nFields:\n";
-    AppendLayout(layout.table, aText);
+    aText = Detail::TagHead(layout, found.entry->tag, registered, found.group->GetDescription());
+    AppendLayout(layout, aText);
+    for (const Detail::TreLayout* other = layout.other; other != nullptr; other = other->other) {
+        aText += "\nAnother layout, which the length of the record tells:\n\n";
+        AppendLayout(*other, aText);
+    }
     return true;
 }
 

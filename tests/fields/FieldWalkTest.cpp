@@ -38,6 +38,48 @@ TEST(FieldWalkTest, FixedSizedComputedAndRestFieldsTakeTheirBytes)
     EXPECT_EQ("LEN=03 MORE=mmmm", empty.fields);
 }
 
+TEST(FieldWalkTest, ARepeatToTheEndGoesOnWhileThereAreBytes)
+{
+    static constexpr FieldRow ROWS[] = {F("A", 1), RepeatToEnd(), F("N", 1), S("T", "N"), End()};
+    static constexpr auto TABLE = MakeTable(ROWS);
+    static_assert(TABLE.wellFormed);
+    EXPECT_EQ("A=a", Walked(TABLE.View(), "a").fields);
+    const Walked walked(TABLE.View(), "a1b02cc");
+    EXPECT_TRUE(walked.result.IsGood());
+    EXPECT_EQ(7U, walked.result.consumed);
+    EXPECT_EQ("A=a N_1=1 T_1=b N_2=0 T_2= N_3=2 T_3=cc", walked.fields);
+    const Walked cut(TABLE.View(), "a1b2c");
+    EXPECT_EQ(Fault::Short, cut.result.fault);
+    EXPECT_EQ("T_2", cut.Culprit());
+
+    static constexpr FieldRow EMPTY[] = {F("N", 1), RepeatToEnd(), S("T", "N"), End()};
+    static constexpr auto EMPTY_TABLE = MakeTable(EMPTY);
+    EXPECT_EQ(1U, Walked(EMPTY_TABLE.View(), "0xxxx").result.consumed) << "turns without bytes must end";
+}
+
+TEST(FieldWalkTest, ACodeWithoutAMeaningIsBlamedForTheWidthThatItDecides)
+{
+    static constexpr FieldRow ROWS[] = {
+        F("CODE", 1),
+        Computed(
+            "VALUE",
+            [](const WalkContext& aContext, std::uint64_t& aOut) {
+                aOut = 2;
+                return aContext.Text("CODE") == "a";
+            },
+            Need::Required, Form::Text, "", "", "")
+            .By("CODE"),
+    };
+    static constexpr auto TABLE = MakeTable(ROWS);
+    static_assert(TABLE.wellFormed);
+    EXPECT_EQ("CODE=a VALUE=xx", Walked(TABLE.View(), "axx").fields);
+    const Walked unknown(TABLE.View(), "bxx");
+    EXPECT_EQ(Fault::UnknownCode, unknown.result.fault);
+    EXPECT_EQ("CODE", unknown.Culprit());
+    EXPECT_EQ("b", unknown.result.value);
+    EXPECT_EQ(0U, unknown.result.offset);
+}
+
 constexpr FieldRow NESTED_ROWS[] = {F("N", 1), Repeat("N"), F("M", 1), Repeat("M"), F("A", 1), Times(2),
                                     F("B", 1), End(),       End(),     F("C", 1),   End(),     F("Z", 1)};
 constexpr auto NESTED = MakeTable(NESTED_ROWS);

@@ -60,6 +60,21 @@ TEST(ValueRuleTest, TextRangesCompareEachPlace)
     EXPECT_EQ(OutOfRange, Check(Form::Text, "AAA..Z", "BBB"));  // a broken rule matches nothing and reads no further
 }
 
+TEST(ValueRuleTest, FractionsOfATimeMayEndInHyphensAndHexadecimalDigitsAreDigitsAndSixLetters)
+{
+    for (const char* const value : {"120000.123456", "120000.12----", "120000.------", "------.------"}) {
+        EXPECT_EQ(Good, Check(Form::Time, "{hhmmss.ssssss}", value)) << value;
+    }
+    for (const char* const value : {"120000.12---4", "120000.-12345", "120000-------"}) {
+        EXPECT_EQ(OutOfRange, Check(Form::Time, "{hhmmss.ssssss}", value)) << value;
+    }
+    EXPECT_EQ(OutOfRange, Check(Form::Location, "{ddmmss.ssX}", "401500.--N"));
+    EXPECT_EQ(NotANumber, Check(Form::Real, "{+n.nnnE+ee}", "+1.---E+01"));
+    EXPECT_EQ(Good, Check(Form::Text, "{xxxx-xx}", "09af-AF"));
+    EXPECT_EQ(OutOfRange, Check(Form::Text, "{xxxx-xx}", "09ag-AF"));
+    EXPECT_EQ(OutOfRange, Check(Form::Text, "{xxxx-xx}", "09a-fAF"));
+}
+
 TEST(ValueRuleTest, AlternativesMayCarryMeaningsAndBlanks)
 {
     constexpr const char* RULE = "L=left|R=right..or so|blank=unknown|==equal";

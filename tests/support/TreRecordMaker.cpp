@@ -22,6 +22,7 @@ constexpr std::size_t FIELDS_ENOUGH = 400;
 constexpr int MOST_TRIES = 400;  // for one value, and for one record
 constexpr int FEW_TRIES = 12;
 constexpr std::string_view DIGITS = "0123456789";
+constexpr std::string_view HEX = "0123456789abcdefABCDEF";
 constexpr std::string_view LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr std::string_view TEXT = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789 -./()&<>'\"\\,;:";
 
@@ -74,6 +75,9 @@ std::vector<std::uint64_t> LowBounds(std::string_view aRule)
 TreRecordMaker::TreRecordMaker(const FieldTable& aTable, std::uint32_t aSeed)
     : m_table(aTable), m_random(aSeed), m_reached(aTable.Size()), m_passed(aTable.Size())
 {
+    const auto rows = aTable.Rows();
+    m_hasOpenRepeat = std::any_of(rows.begin(), rows.end(),
+                                  [](const FieldRow& aRow) { return aRow.kind == RowKind::Repeat && aRow.rest; });
 }
 
 std::string TreRecordMaker::Next()
@@ -103,6 +107,10 @@ bool TreRecordMaker::Make(std::string& aRecord)
     for (std::size_t field = 0; field < store.Entries().size(); ++field) {
         const auto place = static_cast<std::size_t>(store.Position(store.Entries()[field]));
         const FieldEntry entry = store.Entries()[field];
+        if (IsEndOfTurns(entry)) {
+            aRecord.resize(place);
+            return true;
+        }
         if (m_table.Row(entry.row).rest) {
             aRecord.replace(place, std::string::npos, OfForm(m_table.Row(entry.row), 1 + Pick(40)));
             return true;
@@ -114,11 +122,18 @@ bool TreRecordMaker::Make(std::string& aRecord)
             }
             aRecord.replace(place, entry.length, Value(entry));
             result = FieldWalk::Read(aRecord, store);
-        } while (result.consumed > LONG_ENOUGH || store.Entries().size() > FIELDS_ENOUGH ||
+        } while ((!m_hasOpenRepeat && (result.consumed > LONG_ENOUGH || store.Entries().size() > FIELDS_ENOUGH)) ||
                  (!result.IsGood() && store.Entries().size() <= field + 1));
     }
     aRecord.resize(static_cast<std::size_t>(result.consumed));
     return true;
+}
+
+/// Whether a repeat that goes on while there are bytes has had enough turns before this field.
+bool TreRecordMaker::IsEndOfTurns(const FieldEntry& aEntry)
+{
+    const FieldRow& before = m_table.Row(aEntry.row == 0 ? 0 : aEntry.row - 1U);
+    return before.kind == RowKind::Repeat && before.rest && (aEntry.turns[0] > 3 || Pick(3) == 0);
 }
 
 std::string TreRecordMaker::Value(const FieldEntry& aEntry)
@@ -135,7 +150,7 @@ std::string TreRecordMaker::Value(const FieldEntry& aEntry)
 
 std::string TreRecordMaker::Proposal(const FieldRow& aRow, std::size_t aRowIndex, std::size_t aWidth)
 {
-    if (m_table.Link(aRowIndex).structural && (IsCounted(aRowIndex) || Pick(4) != 0)) {
+    if (IsAsked(aRowIndex) && (IsCounted(aRowIndex) || Pick(4) != 0)) {
         return Telling(aRowIndex, aWidth);
     }
     if (!aRow.IsBinary() && aRow.MayBeBlank() && Pick(4) == 0) {
@@ -150,11 +165,28 @@ std::string TreRecordMaker::Proposal(const FieldRow& aRow, std::size_t aRowIndex
     return aRow.values[0] != '\0' ? OfRule(aRow, aWidth) : OfForm(aRow, aWidth);
 }
 
+/// Whether another row looks at the field. A width by a code does not tell which codes there are; the rule does.
+bool TreRecordMaker::LooksAt(std::size_t aRow, std::size_t aField) const
+{
+    const FieldRow& row = m_table.Row(aRow);
+    return m_table.Link(aRow).ref == aField && !(row.IsField() && row.count != nullptr);
+}
+
+bool TreRecordMaker::IsAsked(std::size_t aRow) const
+{
+    for (std::size_t i = aRow + 1; i != m_table.Size(); ++i) {
+        if (LooksAt(i, aRow)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Whether another row takes the field for a count or a length.
 bool TreRecordMaker::IsCounted(std::size_t aRow) const
 {
     for (std::size_t i = aRow + 1; i != m_table.Size(); ++i) {
-        if (m_table.Link(i).ref == aRow && m_table.Row(i).kind != RowKind::When) {
+        if (LooksAt(i, aRow) && m_table.Row(i).kind != RowKind::When) {
             return true;
         }
     }
@@ -169,7 +201,7 @@ std::string TreRecordMaker::Telling(std::size_t aRow, std::size_t aWidth)
     const auto add = [&](std::uint64_t aNumber) { values.push_back(AsField(field, aNumber, aWidth)); };
     for (std::size_t i = aRow + 1; i != m_table.Size(); ++i) {
         const FieldRow& row = m_table.Row(i);
-        if (m_table.Link(i).ref != aRow) {
+        if (!LooksAt(i, aRow)) {
             continue;
         }
         if (row.kind != RowKind::When) {
@@ -313,6 +345,7 @@ std::string TreRecordMaker::OfPicture(std::string_view aPicture)
             text += first == 'X'                                                        ? PickOf("NS")
                     : first == 'Y'                                                      ? PickOf("EW")
                     : first == '+'                                                      ? PickOf("+-")
+                    : first == 'x'                                                      ? PickOf(HEX)
                     : std::string_view("nefzsSd").find(first) != std::string_view::npos ? PickOf(DIGITS)
                     : std::string_view("BJKL").find(first) != std::string_view::npos    ? PickOf(LETTERS)
                                                                                         : first;

@@ -33,8 +33,11 @@ private:
 
     /// False when the values drawn so far leave no way to end the record in time.
     bool Make(std::string& aRecord);
+    bool IsEndOfTurns(const Detail::FieldEntry& aEntry);
     std::string Value(const Detail::FieldEntry& aEntry);
     std::string Proposal(const Detail::FieldRow& aRow, std::size_t aRowIndex, std::size_t aWidth);
+    bool LooksAt(std::size_t aRow, std::size_t aField) const;
+    bool IsAsked(std::size_t aRow) const;
     bool IsCounted(std::size_t aRow) const;
     std::string Telling(std::size_t aRow, std::size_t aWidth);
     std::string OfRule(const Detail::FieldRow& aRow, std::size_t aWidth);
@@ -47,6 +50,7 @@ private:
 
     Detail::FieldTable m_table;
     std::mt19937 m_random;
+    bool m_hasOpenRepeat = false;
     std::vector<bool> m_reached;  // by row
     std::vector<bool> m_passed;   // by row, of conditions: a record had their surroundings, but not them
 };

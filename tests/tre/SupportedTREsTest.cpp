@@ -77,7 +77,7 @@ const SupportedTREs& Registry()
 
 TEST(SupportedTREsTest, EveryTagHasItsCodeGroupAndType)
 {
-    ASSERT_EQ(GROUPS.size(), SupportedTREs::GetGroups().size());
+    ASSERT_EQ(GROUPS.size() + 1, SupportedTREs::GetGroups().size());  // and the public ones, behind
     for (std::size_t i = 0; i != GROUPS.size(); ++i) {
         const Group& expected = GROUPS[i];
         const SupportedTreGroup& group = *SupportedTREs::GetGroups()[i];
@@ -101,6 +101,25 @@ TEST(SupportedTREsTest, EveryTagHasItsCodeGroupAndType)
     }
 }
 
+TEST(SupportedTREsTest, PublicTagsAreAGroupBehindTheOthersWithCodesOfTheirOwn)
+{
+    const SupportedTreGroup& group = *SupportedTREs::GetGroups().back();
+    EXPECT_STREQ("Public (publicly documented extensions)", group.GetDescription());
+    EXPECT_EQ(&SupportedTrePublic::Instance(), &group);
+    std::set<std::int32_t> codes;
+    for (const char* const tag : SupportedTrePublic::GetSupportedTREs()) {
+        const Detail::TreEntry* const entry = group.FindEntry(tag);
+        EXPECT_LE(1100, entry->code) << tag;
+        EXPECT_TRUE(codes.insert(entry->code).second) << tag;
+        EXPECT_TRUE(entry->IsTyped()) << tag;
+        SupportedTreFactory::Enum found = SupportedTreFactory::UNKNOWN;
+        EXPECT_TRUE(Registry().AbleToCreateTRE(tag, &found)) << tag;
+        EXPECT_EQ(SupportedTreFactory::Public, found) << tag;
+    }
+    EXPECT_EQ(1128, group.FindEntry("SENSRB")->code);
+    EXPECT_EQ(12, SupportedTreFactory::Public);
+}
+
 TEST(SupportedTREsTest, EachTagIsClaimedByOneGroupAndTheEntriesAreSorted)
 {
     std::set<std::string_view> seen;
@@ -112,7 +131,7 @@ TEST(SupportedTREsTest, EachTagIsClaimedByOneGroupAndTheEntriesAreSorted)
             EXPECT_TRUE(i == 0 || std::string_view(entries[i - 1].tag) < entries[i].tag) << entries[i].tag;
         }
     }
-    EXPECT_EQ(97U, seen.size());  // with RPC00A, which no group lists
+    EXPECT_EQ(97U + SupportedTrePublic::GetSupportedTREs().size(), seen.size());  // with RPC00A, which no group lists
 }
 
 TEST(SupportedTREsTest, ListsOfTagsAgree)
@@ -121,7 +140,7 @@ TEST(SupportedTREsTest, ListsOfTagsAgree)
     const TRE::Type* types = nullptr;
     std::size_t count = 0;
     Registry().GetTRETypes(tags, types, count);
-    ASSERT_EQ(96U, count);
+    ASSERT_EQ(96U + SupportedTrePublic::GetSupportedTREs().size(), count);
     EXPECT_EQ(count, TRE::GetNumOfSupportedTREs());
     for (std::size_t i = 0; i != count; ++i) {
         EXPECT_EQ(types[i], Registry().GetTREType(tags[i])) << tags[i];
@@ -182,7 +201,7 @@ TEST(SupportedTREsTest, RegistryDispatchesByGroupCode)
         return Registry().CreateTRE("OFFSET", data.c_str(), aOut, nullptr, data.size(), true,
                                     Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN, aGroup);
     };
-    EXPECT_FALSE(create(SupportedTreFactory::Enum{12}, &tre));
+    EXPECT_FALSE(create(SupportedTreFactory::Enum{13}, &tre));
     EXPECT_FALSE(create(SupportedTreFactory::UNKNOWN, &tre));
     EXPECT_FALSE(create(SupportedTreFactory::NSDE, &tre));
     EXPECT_FALSE(create(SupportedTreFactory::MISC, nullptr));

@@ -1,4 +1,5 @@
 #include "fields/FieldWalk.h"
+#include "tests/tre/FilledRecord.h"
 #include "tests/tre/TreLayoutList.h"
 
 #include <array>
@@ -14,24 +15,6 @@ namespace ORMO::SensorModel::CSM {
 namespace {
 
 using namespace Detail;
-
-/// A record of zeros with some values written into their fields, one after another, so that later names may stand in
-/// repeats and conditions that earlier values open.
-struct Filled
-{
-    const char* tag;
-    std::uint64_t length;  ///< by the formula that the standard gives
-    std::vector<std::pair<const char*, std::string>> values;
-};
-
-void PrintTo(const Filled& aCase, std::ostream* aOut)
-{
-    *aOut << aCase.tag << ' ' << aCase.length;
-}
-
-class VariableLengthTest : public testing::TestWithParam<Filled>
-{
-};
 
 TEST_P(VariableLengthTest, FollowsTheFormulaOfTheStandard)
 {

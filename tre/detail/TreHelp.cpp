@@ -32,19 +32,9 @@ std::string_view CertaintyText(LayoutCertainty aCertainty) noexcept
     }
 }
 
-std::string TagHelp(const TreLayout& aLayout, std::string_view aTag, bool aRegistered, std::string_view aGroup)
+std::string LayoutHelp(const TreLayout& aLayout)
 {
-    // The description of IMASDA names the tag without its last letter; hosts have come to know it so.
-    const std::string_view shownTag = aTag == "IMASDA" ? aTag.substr(0, aTag.size() - 1) : aTag;
-    std::string text(aRegistered ? "[Registered Extension]" : "[Controlled Extension]");
-    text += "\nTagged Record Extension ";
-    text += shownTag;
-    text += " (";
-    text += aLayout.name;
-    text += ").\nThis TRE belongs to the ";
-    text += aGroup;
-    text += " TRE Group.\n\n";
-    text += aLayout.purpose;
+    std::string text(aLayout.purpose);
     text += "\n\nPlacement: ";
     text += aLayout.placement;
     text += ".\n";
@@ -60,7 +50,17 @@ std::string TagHelp(const TreLayout& aLayout, std::string_view aTag, bool aRegis
         text += certainty;
         text += '\n';
     }
-    text += "\nSources:\n";
+    if (*aLayout.notes != '\0') {
+        text += "Notes: ";
+        text += aLayout.notes;
+        text += '\n';
+    }
+    return text;
+}
+
+std::string SourcesHelp(const TreLayout& aLayout)
+{
+    std::string text("Sources:\n");
     std::string_view rest(aLayout.sources);
     for (int number = 1; !rest.empty(); ++number) {
         const auto mark = rest.find("; ");
@@ -70,6 +70,26 @@ std::string TagHelp(const TreLayout& aLayout, std::string_view aTag, bool aRegis
         rest = mark == std::string_view::npos ? std::string_view{} : rest.substr(mark + 2);
     }
     return text;
+}
+
+std::string TagHead(const TreLayout& aLayout, std::string_view aTag, bool aRegistered, std::string_view aGroup)
+{
+    // The description of IMASDA names the tag without its last letter; hosts have come to know it so.
+    const std::string_view shownTag = aTag == "IMASDA" ? aTag.substr(0, aTag.size() - 1) : aTag;
+    std::string text(aRegistered ? "[Registered Extension]" : "[Controlled Extension]");
+    text += "\nTagged Record Extension ";
+    text += shownTag;
+    text += " (";
+    text += aLayout.name;
+    text += ").\nThis TRE belongs to the ";
+    text += aGroup;
+    text += " TRE Group.\n\n";
+    return text;
+}
+
+std::string TagHelp(const TreLayout& aLayout, std::string_view aTag, bool aRegistered, std::string_view aGroup)
+{
+    return TagHead(aLayout, aTag, aRegistered, aGroup) + LayoutHelp(aLayout) + '\n' + SourcesHelp(aLayout);
 }
 
 TreDetailedInfo FieldInfo(const FieldRow& aRow, std::string_view aName, std::uint64_t aWidth)

@@ -13,6 +13,15 @@ namespace ORMO::SensorModel::CSM::Detail {
 /// The catalogue text of a field: LONG NAME [= "FIELD", WIDTH bytes, R]. explanation
 std::string FieldHelp(const FieldRow& aRow, std::string_view aName, std::uint64_t aWidth);
 
+/// Purpose, placement, length, certainty and notes of one layout.
+std::string LayoutHelp(const TreLayout& aLayout);
+
+/// The numbered sources of one layout.
+std::string SourcesHelp(const TreLayout& aLayout);
+
+/// Kind, name and group of a tag: the front of its help.
+std::string TagHead(const TreLayout& aLayout, std::string_view aTag, bool aRegistered, std::string_view aGroup);
+
 /// The help text of a tag: kind, name, group, purpose, placement, certainty and numbered sources.
 std::string TagHelp(const TreLayout& aLayout, std::string_view aTag, bool aRegistered, std::string_view aGroup);
 

@@ -1,15 +1,33 @@
 #include "tre/detail/TreLayout.h"
 
+#include "fields/FieldWalk.h"
+
 namespace ORMO::SensorModel::CSM::Detail {
 
-const TreLayout& LayoutForLength(const TreLayout& aFirst, std::size_t aLength) noexcept
+namespace {
+
+bool Fits(const TreLayout& aLayout, std::string_view aData, Util::CSMCnst::ByteOrder aOrder)
 {
-    for (const TreLayout* layout = &aFirst; layout != nullptr; layout = layout->other) {
-        if (layout->length == aLength) {
-            return *layout;
-        }
+    if (aLayout.length != 0) {
+        return aLayout.length == aData.size();
     }
-    return aFirst;
+    FieldStore store(aLayout.table, aOrder);
+    const WalkResult result = FieldWalk::Read(aData, store);
+    return result.IsGood() && result.consumed == aData.size();
+}
+
+}  // namespace
+
+const TreLayout& LayoutOfRecord(const TreLayout& aFirst, std::string_view aData, Util::CSMCnst::ByteOrder aOrder)
+{
+    if (aFirst.other == nullptr) {
+        return aFirst;
+    }
+    const TreLayout* layout = &aFirst;
+    while (layout != nullptr && !Fits(*layout, aData, aOrder)) {
+        layout = layout->other;
+    }
+    return layout == nullptr ? aFirst : *layout;
 }
 
 }  // namespace ORMO::SensorModel::CSM::Detail

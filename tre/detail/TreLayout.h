@@ -4,6 +4,7 @@
 #include "tre/TRE.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
@@ -32,12 +33,13 @@ struct ORMO::SensorModel::CSM::TRE::Layout
     const char* sources;  ///< what the layout rests on, separated by "; "
     Detail::LayoutCertainty certainty;
     Detail::FieldTable table;
-    const Layout* other = nullptr;  ///< a further layout of the same tag, for records of its own fixed length
+    const char* notes = "";  ///< where sources disagree and which one is followed; what a user should know besides
+    const Layout* other = nullptr;  ///< a further layout of the same tag; which one a record has, its length tells
 };
 
 namespace ORMO::SensorModel::CSM::Detail {
 
-/// The layout of a tag that a record of that length has: the one with just this length, else the first.
-const TreLayout& LayoutForLength(const TreLayout& aFirst, std::size_t aLength) noexcept;
+/// The layout of a tag that a record has: the first one that its length fits exactly, else the first.
+const TreLayout& LayoutOfRecord(const TreLayout& aFirst, std::string_view aData, Util::CSMCnst::ByteOrder aOrder);
 
 }  // namespace ORMO::SensorModel::CSM::Detail

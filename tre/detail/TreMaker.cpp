@@ -120,7 +120,7 @@ OwnedTre AskProvider(const KnownTag& aKnown, const TreRecord& aRecord, bool aVal
 OwnedTre MakeTyped(const KnownTag& aKnown, const TreRecord& aRecord, bool aValidate, std::unique_ptr<Parts>& aParts,
                    TreFault& aFault)
 {
-    aFault = TreMaker::Fit(*aParts, LayoutForLength(aKnown.entry->layout(), aRecord.data.size()), aRecord.order);
+    aFault = TreMaker::Fit(*aParts, LayoutOfRecord(aKnown.entry->layout(), aRecord.data, aRecord.order), aRecord.order);
     if (aFault.IsGood() && aValidate) {
         Finding place;
         place.owner = aParts->tag;

@@ -118,6 +118,7 @@ ORMO_TRE_GROUP(PIAE, "PIAE (Profile for Imagery Archives Extensions)");
 ORMO_TRE_GROUP(ResearchSDE, "ResearchSDE (Research Tagged Record Extensions)");
 ORMO_TRE_GROUP(RPF, "RPF (Raster Product Format)");
 ORMO_TRE_GROUP(RSM, "RSM (Replacement Sensor Model)");
+ORMO_TRE_GROUP(Public, "Public (publicly documented extensions)");
 
 #undef ORMO_TRE_GROUP
 

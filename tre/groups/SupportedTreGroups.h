@@ -37,6 +37,8 @@ ORMO_TRE_GROUP(SupportedTreResearchSDE);
 ORMO_TRE_GROUP(SupportedTreRPF);
 /// RSM (Replacement Sensor Model).
 ORMO_TRE_GROUP(SupportedTreRSM);
+/// Public (publicly documented extensions).
+ORMO_TRE_GROUP(SupportedTrePublic);
 
 #undef ORMO_TRE_GROUP
 

@@ -70,7 +70,9 @@ const Detail::TreLayout& TreBANDSA::Layout()
             "NITRO plug-in table; Opticks TRE parser; length limits 72 to 45980 quoted for STDI-0002 version "
             "3.0 Appendix E in a public Kaitai Struct description",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The meanings of BANDCALDRK, BANDCALINC, BANDRESP and BANDASD are recalled, without a source at hand."};
     return LAYOUT;
 }
 

@@ -80,8 +80,8 @@ constexpr FieldRow ROWS[] = {
                   "Name of the band as the user or producer defines it; unique within the cube."),
         End(),
         WhenAnyBit("EXISTENCE_MASK", 1U << 27U),
-            Field("BAD_BAND",                         1, Conditional,   Integer,  "0=bad or suspect|1=good",      "",                 "Bad Band Flag",
-                  "Tells whether the data of this band can be trusted."),
+            Field("BAD_BAND",                         1, Conditional,   Integer,  "0|1",      "",                 "Bad Band Flag",
+                  "Marks the data of this band as good or as bad; sources disagree which value means which."),
         End(),
         WhenAnyBit("EXISTENCE_MASK", 1U << 26U),
             Field("NIIRS",                            3, Conditional,   Real,     "0.1..9.9|+++=above 9.9|---=unknown", "", "NIIRS Value",
@@ -282,7 +282,10 @@ const Detail::TreLayout& TreBANDSB::Layout()
             "TRE description file; NITRO plug-in table; Opticks TRE parser; pynitf TRE definition; NFX TRE "
             "class",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "Sources disagree on the sense of BAD_BAND. WAVE_LENGTH_UNIT stands when any of the bits 24 to 19 is "
+            "set; GDAL reads it for bit 24 only."};
     return LAYOUT;
 }
 

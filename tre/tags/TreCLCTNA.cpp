@@ -91,7 +91,8 @@ const Detail::TreLayout& TreCLCTNA::Layout()
             "comes.",
         .sources = "NITRO plug-in table",
         .certainty = Detail::LayoutCertainty::OneSource,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes = "The forms of the dates, of the locations and of SCLCTN_Z_OFF are recalled."};
     return LAYOUT;
 }
 

@@ -262,7 +262,7 @@ constexpr FieldRow ROWS[] = {
           "Cross track range at the middle of the aperture."),
     Field("CG_CROSS_CONFIDENCE",           7, Required,         Real,    "0000.00..9999.99",             "m",                   "Cross Track Range Confidence",
           "95 percent confidence interval of the cross track range."),
-    Field("CG_CAAC",                       9, Required,         Real,    "-999.9999..+999.9999",         "deg",                 "Cone Angle",
+    Field("CG_CAAC",                       9, Required,         Real,    "-179.0000..+179.0000",         "deg",                 "Cone Angle",
           "Cone angle at the sensor reference point."),
     Field("CG_CONE_CONFIDENCE",            6, Required,         Real,    "0.0000..0.9999",               "deg",                 "Cone Angle Confidence",
           "95 percent confidence interval of the cone angle."),
@@ -474,7 +474,10 @@ const Detail::TreLayout& TreCMETAA::Layout()
             "STDI-0002; imaging-nitf TRE description file and its three test records of 1572 bytes; NITRO "
             "plug-in table; Opticks TRE parser; NGA MATLAB SAR Toolbox; NITF Metadata Register (2016 draft)",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The standard prints the name RELATED_TRES for both of the first two fields. Sources disagree on the "
+            "ranges of CG_CAAC and CG_SLOPE; the one that fits the width is given."};
     return LAYOUT;
 }
 

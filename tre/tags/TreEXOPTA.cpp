@@ -75,7 +75,8 @@ const Detail::TreLayout& TreEXOPTA::Layout()
             "STDI-0002 Volume 1 Appendix E (2025-02); imaging-nitf TRE description file; NITRO plug-in table; "
             "Opticks TRE parser; OSSIM tag class; NFX TRE class",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes = "The unit of MEAN_GSD, inches, is recalled."};
     return LAYOUT;
 }
 

@@ -22,8 +22,8 @@ constexpr FieldRow ROWS[] = {
     Field("SYSTYPE",     20, Required,      Text,    "any=registered system name or commercial platform and sensor code", "", "System Type",
           "Sensor system that collected the original image."),
     Field("PC",          12, Required,      Text,    "any=up to three codes of four characters, filled up with zeros", "", "Prior Compression",
-          "Compressions that the image had gone through before it was put into this format; codes are NONE, NC00, C3Q0 "
-          "to C3Q5, C4LO, C5NL, JP20, J2NL, J2VL, J2LO, WVLO, WVNL, UNKC, OTLO and OTNL."),
+          "Compressions that the image had gone through before it was put into this format; codes are for example NONE, "
+          "NC00, C3Q0 to C3Q5, C4LO, C5NL, JP20, J2NL, J2VL, J2LO, WVLO, WVNL, UNKC, OTLO and OTNL."),
     Field("PE",           4, Required,      Text,    "EH08|EH11|UE08|UE11|DGHC|UNKP|NONE|GEOR|ORTH|MOSC|SRES", "", "Prior Enhancements",
           "Enhancement that had been applied before the image was put into this format."),
     Field("REMAP_FLAG",   1, RequiredBlank, Text,    "0=no|1=yes|blank=not applicable|2..9=reserved", "", "System Specific Remap",
@@ -142,7 +142,10 @@ const Detail::TreLayout& TreHISTOA::Layout()
             "class; pynitf TRE definition; OSML imagery-io structure definition; NFX TRE class; NITF Metadata "
             "Register (2016 draft); three HISTOA blocks of image files (115, 276 and 337 bytes)",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The codes of PC, INBWC and OUTBWC are examples; registers know more. The values 2 and 3 of DISP_FLAG "
+            "stand in newer code lists only."};
     return LAYOUT;
 }
 

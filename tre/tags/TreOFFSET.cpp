@@ -39,7 +39,8 @@ const Detail::TreLayout& TreOFFSET::Layout()
             "sample.",
         .sources = "NITRO plug-in table",
         .certainty = Detail::LayoutCertainty::OneSource,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes = "The placement is recalled."};
     return LAYOUT;
 }
 

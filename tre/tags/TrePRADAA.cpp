@@ -47,7 +47,8 @@ const Detail::TreLayout& TrePRADAA::Layout()
             "probability.",
         .sources = "MIL-PRF-89034 Table 9; STDI-0002 Volume 1 Appendix V (list of DPPDB tags); NITRO plug-in table",
         .certainty = Detail::LayoutCertainty::OneSource,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes = "The unit, metres, is recalled and not stated by the source."};
     return LAYOUT;
 }
 

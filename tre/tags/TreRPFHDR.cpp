@@ -61,7 +61,8 @@ const Detail::TreLayout& TreRPFHDR::Layout()
             "2026; NITRO plug-in table; imaging-nitf TRE description file; four RPF files (48 bytes each: two "
             "CADRG frames, a CADRG test file of NITF 2.0, a CIB frame)",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes = "The meanings 1 and 2 of NEWFLG are recalled; 0 is the first release."};
     return LAYOUT;
 }
 

@@ -334,7 +334,10 @@ const Detail::TreLayout& TreRPFIMG::Layout()
             "source, 2026; NITRO plug-in table; three CADRG files (RPFIMG of 4213, 4223 and 4243 bytes) and a "
             "CIB frame (1395 bytes)",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The meanings of the CGTID values are recalled. The positions in the location table are absolute and may "
+            "be wrong after a header was rewritten; the order of the parts is trusted first."};
     return LAYOUT;
 }
 

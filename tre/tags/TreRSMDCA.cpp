@@ -1,6 +1,6 @@
-#include "fields/FieldWalk.h"
 #include "tre/detail/TreLayout.h"
 #include "tre/tags/TypedTre.h"
+#include "tre/tags/detail/Counts.h"
 #include "tre/tags/detail/RsmAdjustable.h"
 
 namespace ORMO::SensorModel::CSM {
@@ -13,15 +13,9 @@ using namespace Detail;
 using enum Detail::Need;
 using enum Detail::Form;
 
-/// The upper triangle of a matrix of order NPART.
 bool CountCovarianceElements(const WalkContext& aContext, std::uint64_t& aOut)
 {
-    std::uint64_t order = 0;
-    if (!aContext.Count("NPART", order)) {
-        return false;
-    }
-    aOut = order * (order + 1) / 2;
-    return true;
+    return CountTriangle(aContext, "NPART", aOut);
 }
 
 // clang-format off

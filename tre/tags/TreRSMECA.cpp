@@ -1,6 +1,6 @@
-#include "fields/FieldWalk.h"
 #include "tre/detail/TreLayout.h"
 #include "tre/tags/TypedTre.h"
+#include "tre/tags/detail/Counts.h"
 #include "tre/tags/detail/RsmAdjustable.h"
 
 namespace ORMO::SensorModel::CSM {
@@ -13,26 +13,14 @@ using namespace Detail;
 using enum Detail::Need;
 using enum Detail::Form;
 
-/// The upper triangle of a matrix of order NUMOPG.
 bool CountGroupElements(const WalkContext& aContext, std::uint64_t& aOut)
 {
-    std::uint64_t order = 0;
-    if (!aContext.Count("NUMOPG", order)) {
-        return false;
-    }
-    aOut = order * (order + 1) / 2;
-    return true;
+    return CountTriangle(aContext, "NUMOPG", aOut);
 }
 
 bool CountMatrixElements(const WalkContext& aContext, std::uint64_t& aOut)
 {
-    std::uint64_t rows = 0;
-    std::uint64_t columns = 0;
-    if (!aContext.Count("NPAR", rows) || !aContext.Count("NPARO", columns)) {
-        return false;
-    }
-    aOut = rows * columns;
-    return true;
+    return CountMatrix(aContext, "NPAR", "NPARO", aOut);
 }
 
 // clang-format off

@@ -111,7 +111,10 @@ const Detail::TreLayout& TreRSMGGA::Layout()
             "coordinates, from which the ground-to-image function is interpolated.",
         .sources = "GDAL TRE description file; NITRO plug-in table; pynitf TRE definition",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The meaning of the INTORD values is recalled. A blank RCOORD or CCOORD is a point that the grid leaves "
+            "undefined."};
     return LAYOUT;
 }
 

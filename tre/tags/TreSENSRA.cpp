@@ -87,7 +87,10 @@ const Detail::TreLayout& TreSENSRA::Layout()
             "imaging-nitf TRE description file and its SENSRA test record; NITRO plug-in table; Opticks TRE "
             "parser; OSSIM tag class",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The meanings of the source codes are recalled, except the altitude codes B, G and R; code M is not "
+            "confirmed."};
     return LAYOUT;
 }
 

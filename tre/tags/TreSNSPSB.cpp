@@ -172,7 +172,8 @@ const Detail::TreLayout& TreSNSPSB::Layout()
             "STDI-0002 Volume 1 Appendix P, Table P-13 (2024-04); GDAL TRE description file; NITRO plug-in "
             "table; NFX TRE class; NITF Metadata Register (2016 draft)",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes = "The unit of WS1 and WS2 and the sense of NOA and PXT are recalled, without a source at hand."};
     return LAYOUT;
 }
 

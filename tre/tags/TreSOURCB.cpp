@@ -96,20 +96,20 @@ constexpr FieldRow ROWS[] = {
                   "Date on which the security class may be lowered."),
         End(),
         Field("QLE",      80, Required,         Text,    "",                        "",                "Releasability",
-              "Who may receive the source; UNRESTRICTED by default."),
+              "Who may receive the source; UNRESTRICTED by default.").OftenBlank(),
         Field("CPY",      80, Required,         Text,    "",                        "",                "Copyright Statement",
-              "Copyright statement of the source; UNCOPYRIGHTED by default."),
+              "Copyright statement of the source; UNCOPYRIGHTED by default.").OftenBlank(),
         Field("NMI",       2, Required,         Integer, "00..99",                  "",                "Number of Magnetic Information Records",
               "How many records on the earth magnetic field follow."),
         Repeat("NMI"),
             Field("CDV30",     8, Conditional,      Date,    "{YYYYMMDD}",              "",                "Date of Magnetic Information",
                   "Date for which the magnetic values hold."),
             Field("UNIRAT",    3, Conditional,      Text,    "ML|MSC|SEC|MA|DEG",       "",                "Unit of Measure for Annual Rate of Change",
-                  "Unit of the yearly change; DEG by default."),
+                  "Unit of the yearly change; DEG by default.").OftenBlank(),
             Field("RAT",       8, Conditional,      Real,    "-9999999..99999999",      "UNIRAT per year", "Annual Rate of Change",
                   "Yearly change of the grid magnetic angle."),
             Field("UNIGMA",    3, Conditional,      Text,    "ML|MSC|SEC|MA|DEG",       "",                "Unit of Measure for GMA",
-                  "Unit of the grid magnetic angle; DEG by default."),
+                  "Unit of the grid magnetic angle; DEG by default.").OftenBlank(),
             Field("GMA",       8, Conditional,      Real,    "-9999999..99999999",      "UNIGMA",          "Grid Magnetic Angle",
                   "Angle between grid north and magnetic north at the date given."),
             Field("LONGMA",   15, ConditionalBlank, Real,    "",                        "GEOPSB UNI",      "Longitude or Easting of GMA Reference Point",
@@ -243,7 +243,10 @@ const Detail::TreLayout& TreSOURCB::Layout()
             "STDI-0002 Volume 1 Appendix P, Table P-14 (2024-04); GDAL TRE description file; NITRO plug-in "
             "table; NFX TRE class; NITF Metadata Register (2016 draft)",
         .certainty = Detail::LayoutCertainty::Agreed,
-        .table = TABLE.View()};
+        .table = TABLE.View(),
+        .notes =
+            "The sense of QOD, CPATCH and GMA is recalled. Some programs read SQU, PCI, HKE, LONHKE, LATHKE, CDV10 "
+            "and GCA always; that they depend on their unit fields fits the shortest record."};
     return LAYOUT;
 }
 

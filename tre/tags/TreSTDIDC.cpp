@@ -48,7 +48,7 @@ constexpr FieldRow ROWS[] = {
     Field("WAC",               4, RequiredBlank, Integer,  "0001..1866|blank",       "",       "World Aeronautical Chart",
           "Number of the aeronautical chart sheet that shows the reference point."),
     Field("LOCATION",         11, Required,      Location, "{ddmmXdddmmY}",          "",       "Location",
-          "Latitude and longitude, to the minute, of the reference point of the image."),
+          "Latitude and longitude, to the minute, of the reference point of the image.").OftenBlank(),
     Field("RESERVED-001",      5, RequiredBlank, Text,     "",                       "",       "Reserved 1",
           "Reserved by the standard; five spaces.").Alias("RESERVED_001"),
     Field("RESERVED-002",      8, RequiredBlank, Text,     "",                       "",       "Reserved 2",

@@ -29,7 +29,7 @@ constexpr FieldRow ROWS[] = {
     Field("RESERVED-004",    3, RequiredBlank, Text,    "",                     "",      "Reserved 4",
           "Reserved by the standard; filled with spaces.").Alias("RESERVED_004"),
     Field("OBL_ANG",         5, RequiredBlank, Real,    "00.00..90.00|blank",   "deg",   "Obliquity Angle",
-          "Angle between the local vertical and the viewing direction."),
+          "Obliquity of the viewing direction."),
     Field("ROLL_ANG",        6, RequiredBlank, Real,    "-90.00..+90.00|blank", "deg",   "Roll Angle",
           "Roll angle of the platform."),
     Field("RESERVED-005",   12, RequiredBlank, Text,    "",                     "",      "Reserved 5",

@@ -32,7 +32,10 @@ constexpr std::uint32_t SEED = 20240611;
 enum class Kind
 {
     Spelled,   ///< GDAL has another name for the field, which is no alias of ours
+    Numbered,  ///< GDAL's name ends in letters that the standard prints for a number, such as _NNN
+    Latin1,    ///< GDAL takes the bytes for ISO 8859-1 and prints them in UTF-8
     Nameless,  ///< GDAL steps over the field without a name for it
+    Refused,   ///< GDAL refuses the whole record
     Astray,    ///< at this field or right behind it GDAL loses its place, and the rest of the record tells nothing
     Behind     ///< the same, but only behind this field
 };
@@ -68,6 +71,12 @@ constexpr std::array DIFFERENCES{
     Difference{"BLOCKA", "RESERVED-*", Kind::Nameless, "", NO_NAME},
     Difference{"CSPROA", "RESERVED_*", Kind::Nameless, "", NO_NAME},
     Difference{"EXPLTB", "RESERVED-*", Kind::Nameless, "", NO_NAME},
+    Difference{"RSMECB", "", Kind::Refused, "", "GDAL wants 371 bytes, but without covariances 162 are enough"},
+    Difference{"SECURA", "NFSECFLDS", Kind::Latin1, "", "most of its bytes are text, but zero bytes fill it up"},
+    Difference{"SENSRB", "TIME_STAMP_VALUE", Kind::Astray, "", "GDAL knows no fields of the modules 2 to 4"},
+    Difference{"SENSRB", "PIXEL_REFERENCE_VALUE", Kind::Astray, "", "the same"},
+    Difference{"SENSRB", "*", Kind::Numbered, "",
+               "the names in GDAL keep the place of a number that it never fills in"},
     Difference{"STDIDC", "BLANK_FILL", Kind::Nameless, "", NO_NAME},
     Difference{"STDIDC", "RESERVED-*", Kind::Nameless, "", NO_NAME},
     Difference{"USE00A", "RESERVED-*", Kind::Nameless, "", NO_NAME},
@@ -205,6 +214,10 @@ bool Comparison::IsSameName(const FieldRow& aRow, std::string_view aTurns, std::
     if (aTheirs == aRow.tag || (aRow.alias != nullptr && aTheirs == aRow.alias)) {
         return true;
     }
+    const std::string_view stem = aTheirs.substr(0, aTheirs.find_last_not_of("MN") + 1);
+    if (stem.size() == std::string_view(aRow.tag).size() + 1 && stem.starts_with(aRow.tag) && stem.ends_with('_')) {
+        return IsKnown(aRow.tag, Kind::Numbered);
+    }
     const Difference* const known = FindDifference(m_tag, aRow.tag, Kind::Spelled);
     return known != nullptr && known->gdalName == aTheirs && IsKnown(aRow.tag, Kind::Spelled);
 }
@@ -219,7 +232,8 @@ bool Comparison::IsSame(const FieldRow& aRow, std::string_view aTurns, std::stri
     }
     const auto& [name, value] = m_theirs.fields[m_next];
     m_report += name + " = [" + value + "]";
-    const bool sameValue = value == expected || (aRow.form == Form::Ecs && value == Utf8(expected));
+    const bool latin = aRow.form == Form::Ecs || IsKnown(aRow.tag, Kind::Latin1);
+    const bool sameValue = value == expected || (latin && value == Utf8(expected));
     return IsSameName(aRow, aTurns, name) && sameValue;
 }
 
@@ -265,6 +279,11 @@ void CompareTag(const char* aTag, const FieldTable& aTable, Met& aMet)
         const TrePointer tre = MakeTyped(aTag, data);
         const Tests::GdalReading theirs = Tests::ReadThroughGdal(aTag, data);
         ASSERT_NE(nullptr, tre) << aTag;
+        if (const Difference* const refused = FindDifference(aTag, "", Kind::Refused);
+            !theirs.found && refused != nullptr) {
+            aMet.insert(refused);
+            continue;
+        }
         ASSERT_TRUE(theirs.found) << aTag << ": " << theirs.errors;
         Comparison comparison(aTag, aTable, *tre, theirs, aMet);
         const Outcome outcome = comparison.Run();
@@ -293,11 +312,13 @@ TEST(TreDifferentialTest, GdalReadsTheSameFieldsWithTheSameValues)
         const auto* const found = std::find_if(std::begin(TRE_LAYOUTS), std::end(TRE_LAYOUTS),
                                                [rows](const NamedLayout& aNamed) { return aNamed.tag == rows; });
         if (found != std::end(TRE_LAYOUTS)) {
-            CompareTag(tag.c_str(), found->layout().table, met);
+            // Sources disagree on the coefficients of CSWRPB; GDAL counts them as our second layout does.
+            const TreLayout& layout = tag == "CSWRPB" ? *found->layout().other : found->layout();
+            CompareTag(tag.c_str(), layout.table, met);
             ++compared;
         }
     }
-    EXPECT_GE(compared, 48U) << "tags that both sides know";
+    EXPECT_GE(compared, 61U) << "tags that both sides know";
     for (const Difference& known : DIFFERENCES) {
         EXPECT_EQ(1U, met.count(&known)) << "no longer needed: " << known.tag << ' ' << known.field << ", "
                                          << known.reason;
