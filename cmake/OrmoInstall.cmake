@@ -72,5 +72,9 @@ configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrmoCsmConfig.cmake.i
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/OrmoCsmConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/OrmoCsmConfig.cmake" "${PROJECT_BINARY_DIR}/OrmoCsmConfigVersion.cmake"
         DESTINATION "${ORMO_PACKAGE_DIR}")
+set(ORMO_PC_PRIVATE_LIBS "-ldl")
+if(ORMO_XML_PRODUCTS)
+    string(APPEND ORMO_PC_PRIVATE_LIBS " -lexpat")
+endif()
 configure_file("${PROJECT_SOURCE_DIR}/cmake/ormo-csm.pc.in" "${PROJECT_BINARY_DIR}/ormo-csm.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/ormo-csm.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

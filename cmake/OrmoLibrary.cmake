@@ -23,11 +23,19 @@ target_compile_definitions(
     PRIVATE
         ORMO_CSM_GDAL_LIBRARY="${CMAKE_SHARED_LIBRARY_PREFIX}ormo_csm_gdal${CMAKE_SHARED_LIBRARY_SUFFIX}.${PROJECT_VERSION_MAJOR}")
 
+# Documents of radar products are read with expat, which stays inside.
+if(ORMO_XML_PRODUCTS)
+    find_package(EXPAT REQUIRED)
+    target_compile_definitions(ormo_csm_objects PRIVATE ORMO_XML_PRODUCTS)
+    target_link_libraries(ormo_csm_objects PRIVATE EXPAT::EXPAT)
+    set(ORMO_XML_LIBRARY EXPAT::EXPAT)
+endif()
+
 add_library(ormo_csm)
 add_library(Ormo::csm ALIAS ormo_csm)
 ormo_library_settings(ormo_csm)
 target_link_libraries(ormo_csm PRIVATE $<BUILD_INTERFACE:ormo_csm_objects>)
-target_link_libraries(ormo_csm PUBLIC ormo_csmapi PRIVATE ${CMAKE_DL_LIBS})
+target_link_libraries(ormo_csm PUBLIC ormo_csmapi PRIVATE ${CMAKE_DL_LIBS} ${ORMO_XML_LIBRARY})
 target_compile_features(ormo_csm PUBLIC cxx_std_17)
 if(BUILD_SHARED_LIBS)
     # The plug-in stands in a list of another library, and so do companions' objects in this one: it stays loaded.
@@ -39,6 +47,7 @@ target_include_directories(
 
 if(ORMO_BUILD_TESTS OR ORMO_BUILD_BENCH OR ORMO_BUILD_FUZZ)
     add_library(ormo_csm_internal STATIC)
-    target_link_libraries(ormo_csm_internal PUBLIC ormo_csm_objects ormo_settings ormo_csmapi ${CMAKE_DL_LIBS})
+    target_link_libraries(ormo_csm_internal PUBLIC ormo_csm_objects ormo_settings ormo_csmapi ${CMAKE_DL_LIBS}
+                                                   ${ORMO_XML_LIBRARY})
     set_target_properties(ormo_csm_internal PROPERTIES LINKER_LANGUAGE CXX)
 endif()

@@ -1,9 +1,11 @@
+#include "segments/des/DesXmlProduct.h"
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 
 #include <iostream>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 namespace OrmoNitf {
 
@@ -94,6 +96,24 @@ void PrintImage(std::ostream& aOut, const NITFImageSubheader& aImage, std::uint6
     PrintTREs(aOut, aImage);
 }
 
+/// What an XML document of a radar product says of itself.
+void PrintXmlProduct(std::ostream& aOut, const NITFDESSubheader& aDes)
+{
+    DesXmlProduct product;
+    if (!aDes.GetXmlProduct(product)) {
+        return;
+    }
+    aOut << "    " << Shown(product.standard) << ' ' << Shown(product.version);
+    for (const auto& [word, value] :
+         {std::pair{"collector", &product.collector}, std::pair{"mode", &product.mode},
+          std::pair{"centre", &product.centre}, std::pair{"reference point", &product.reference}}) {
+        if (!value->empty()) {
+            aOut << ", " << word << ' ' << Shown(*value);
+        }
+    }
+    aOut << '\n';
+}
+
 /// A word for a segment that is no image, and what names it best.
 void PrintOther(std::ostream& aOut, const NITFStdDataSegmentInfo& aInfo, const NITFFieldSegment* aSegment)
 {
@@ -136,6 +156,9 @@ void PrintFile(std::ostream& aOut, const std::string& aPath, const ImageSupportD
         const NITFDESSubheader* const des = info->GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION
                                                 ? aIsd.GetDataExtensionSegment(index)
                                                 : nullptr;
+        if (des != nullptr) {
+            PrintXmlProduct(aOut, *des);
+        }
         if (des != nullptr && des->IsTREOverflow() && !aIsd.IsOverflowPlaced(index)) {
             PrintTREs(aOut, {&des->GetOverflowTREs()});
         }

@@ -11,6 +11,7 @@
 #include "segments/des/DesDESSHF.h"
 #include "segments/des/SupportedDESDATAs.h"
 #include "segments/des/SupportedDESSHFs.h"
+#include "segments/des/detail/XmlProduct.h"
 #include "segments/detail/Findings.h"
 #include "segments/detail/SegmentContents.h"
 #include "segments/detail/SegmentData.h"
@@ -266,6 +267,21 @@ const DesDESDATA* NITFDESSubheader::GetDESDATAFields(std::string* aErrors) const
         Detail::AppendBlock(*aErrors, typed.fault);
     }
     return typed.fields.get();
+}
+
+bool NITFDESSubheader::GetXmlProduct(DesXmlProduct& aProduct) const
+{
+    if (GetDESTypeID() != SupportedDESSHFs::XML_DATA_CONTENT) {
+        return false;
+    }
+    std::string front;
+    // Ends early, which is no fault, once the front is there.
+    (void)Data().ForEachPiece([&front](std::string_view aPiece) {
+        front += aPiece;
+        return front.size() < Detail::MOST_XML_READ;
+    });
+    aProduct = {};
+    return Detail::RecogniseXmlProduct(front, aProduct);
 }
 
 std::string_view NITFDESSubheader::FieldLeftOut() const noexcept

@@ -11,6 +11,7 @@ namespace ORMO::SensorModel::CSM {
 
 class DesDESDATA;
 class DesDESSHF;
+struct DesXmlProduct;
 
 /// The subheader of one data extension segment. NITF20DESSubheader reads MIL-STD-2500A (table XVIII),
 /// NITF21DESSubheader MIL-STD-2500C (table A-8), which also serves NSIF 1.0.
@@ -45,6 +46,9 @@ public:
     /// The data cut into the fields of their type, read when first asked for. Null, with the reason appended to
     /// `aErrors` when that is given, when the type is not known, the data cannot be had, or they do not fit it.
     const DesDESDATA* GetDESDATAFields(std::string* aErrors = nullptr) const;
+    /// What the data say of themselves when they are the XML document of a SICD or SIDD product; false otherwise. The
+    /// document is read anew each time.
+    bool GetXmlProduct(DesXmlProduct& aProduct) const;
 
 protected:
     NITFDESSubheader(const char* aVersionText, const Detail::FieldTable& aTable);

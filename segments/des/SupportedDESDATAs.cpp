@@ -1,20 +1,29 @@
 #include "segments/des/SupportedDESDATAs.h"
 
+#include "foundation/detail/Ascii.h"
 #include "segments/des/DesDESDATACSATTA.h"
 #include "segments/des/DesDESDATACSSHPA.h"
+#include "segments/des/DesTypes.h"
 #include "segments/des/SupportedDESSHFs.h"
 #include "segments/des/detail/DesMakers.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
 namespace {
 
-using Makers = Detail::DesMakers<DesDESDATA, 2>;
+using Makers = Detail::DesMakers<DesDESDATA, 6>;
 
 constexpr Makers MAKERS{{{{SupportedDESDATAs::DES_CSATTA, Makers::Make<DesDESDATACSATTA>},
-                          {SupportedDESDATAs::DES_CSSHPA, Makers::Make<DesDESDATACSSHPA>}}}};
+                          {SupportedDESDATAs::DES_CSSHPA, Makers::Make<DesDESDATACSSHPA>},
+                          {SupportedDESDATAs::CSATTB, Makers::Make<DesDESDATACSATTB>},
+                          {SupportedDESDATAs::CSCSDB, Makers::Make<DesDESDATACSCSDB>},
+                          {SupportedDESDATAs::CSEPHB, Makers::Make<DesDESDATACSEPHB>},
+                          {SupportedDESDATAs::CSSFAB, Makers::Make<DesDESDATACSSFAB>}}}};
 
 }  // namespace
 
@@ -66,11 +75,12 @@ void SupportedDESDATAs::DestroyDESDATA(DesDESDATA** aDESDATA) noexcept
 
 int SupportedDESDATAs::IsBinary(const char* aType) noexcept
 {
-    // Both known types hold binary data; a type of which only the subheader fields are known holds a text.
-    if (AbleToCreateDESDATA(aType)) {
-        return 1;
+    // XML is text, and so are attitudes, positions and errors; the rest is files and numbers in binary.
+    if (!AbleToCreateDESDATA(aType) && !SupportedDESSHFs::AbleToCreateDESSHF(aType)) {
+        return -1;
     }
-    return SupportedDESSHFs::AbleToCreateDESSHF(aType) ? 0 : -1;
+    constexpr std::string_view TEXTS[] = {SupportedDESSHFs::XML_DATA_CONTENT, CSATTB, CSCSDB, CSEPHB};
+    return std::count(std::begin(TEXTS), std::end(TEXTS), Detail::Trimmed(aType)) == 0 ? 1 : 0;
 }
 
 }  // namespace ORMO::SensorModel::CSM

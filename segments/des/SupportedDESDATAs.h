@@ -17,6 +17,10 @@ class ORMO_CSM_API SupportedDESDATAs
 public:
     static constexpr const char* DES_CSATTA = "CSATTA DES";
     static constexpr const char* DES_CSSHPA = "CSSHPA DES";
+    static constexpr const char* CSATTB = "CSATTB";
+    static constexpr const char* CSCSDB = "CSCSDB";
+    static constexpr const char* CSEPHB = "CSEPHB";
+    static constexpr const char* CSSFAB = "CSSFAB";
 
     static const std::vector<const char*>& GetAllSupportedDESDATAs();
     static bool AbleToCreateDESDATA(const char* aType) noexcept;

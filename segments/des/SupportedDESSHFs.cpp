@@ -3,6 +3,7 @@
 #include "segments/des/DesDESSHFCSATTA.h"
 #include "segments/des/DesDESSHFCSSHPA.h"
 #include "segments/des/DesDESSHFXmlDataContent.h"
+#include "segments/des/DesTypes.h"
 #include "segments/des/detail/DesMakers.h"
 
 #include <cstring>
@@ -11,11 +12,18 @@ namespace ORMO::SensorModel::CSM {
 
 namespace {
 
-using Makers = Detail::DesMakers<DesDESSHF, 3>;
+using Makers = Detail::DesMakers<DesDESSHF, 10>;
 
 constexpr Makers MAKERS{{{{SupportedDESSHFs::CSATTA, Makers::Make<DesDESSHFCSATTA>},
                           {SupportedDESSHFs::CSSHPA, Makers::Make<DesDESSHFCSSHPA>},
-                          {SupportedDESSHFs::XML_DATA_CONTENT, Makers::Make<DesDESSHFXmlDataContent>}}}};
+                          {SupportedDESSHFs::XML_DATA_CONTENT, Makers::Make<DesDESSHFXmlDataContent>},
+                          {SupportedDESSHFs::CSATTB, Makers::Make<DesDESSHFCSATTB>},
+                          {SupportedDESSHFs::CSCSDB, Makers::Make<DesDESSHFCSCSDB>},
+                          {SupportedDESSHFs::CSEPHB, Makers::Make<DesDESSHFCSEPHB>},
+                          {SupportedDESSHFs::CSSFAB, Makers::Make<DesDESSHFCSSFAB>},
+                          {SupportedDESSHFs::CSSHPB, Makers::Make<DesDESSHFCSSHPB>},
+                          {SupportedDESSHFs::EXT_DEF_CONTENT, Makers::Make<DesDESSHFExtDefContent>},
+                          {SupportedDESSHFs::LIDARA, Makers::Make<DesDESSHFLIDARA>}}}};
 
 }  // namespace
 

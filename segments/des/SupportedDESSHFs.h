@@ -18,6 +18,13 @@ public:
     static constexpr const char* CSATTA = "CSATTA DES";
     static constexpr const char* CSSHPA = "CSSHPA DES";
     static constexpr const char* XML_DATA_CONTENT = "XML_DATA_CONTENT";
+    static constexpr const char* CSATTB = "CSATTB";
+    static constexpr const char* CSCSDB = "CSCSDB";
+    static constexpr const char* CSEPHB = "CSEPHB";
+    static constexpr const char* CSSFAB = "CSSFAB";
+    static constexpr const char* CSSHPB = "CSSHPB DES";
+    static constexpr const char* EXT_DEF_CONTENT = "EXT_DEF_CONTENT";
+    static constexpr const char* LIDARA = "LIDARA DES";
 
     static const std::vector<const char*>& GetAllSupportedDESSHFs();
     static bool AbleToCreateDESSHF(const char* aType) noexcept;

@@ -94,11 +94,14 @@ BuiltSegment<NITF21DESSubheader> Des(const char* aType, const std::string& aFiel
 
 TEST(DesTypesTest, TypesAreComparedExactlyAfterTrimming)
 {
-    EXPECT_THAT(
-        SupportedDESSHFs::GetAllSupportedDESSHFs(),
-        ElementsAre(testing::StrEq("CSATTA DES"), testing::StrEq("CSSHPA DES"), testing::StrEq("XML_DATA_CONTENT")));
-    EXPECT_THAT(SupportedDESDATAs::GetAllSupportedDESDATAs(),
-                ElementsAre(testing::StrEq("CSATTA DES"), testing::StrEq("CSSHPA DES")));
+    const auto listed = [](const std::vector<const char*>& aTypes) {
+        return std::vector<std::string>(aTypes.begin(), aTypes.end());
+    };
+    EXPECT_THAT(listed(SupportedDESSHFs::GetAllSupportedDESSHFs()),
+                ElementsAre("CSATTA DES", "CSSHPA DES", "XML_DATA_CONTENT", "CSATTB", "CSCSDB", "CSEPHB", "CSSFAB",
+                            "CSSHPB DES", "EXT_DEF_CONTENT", "LIDARA DES"));
+    EXPECT_THAT(listed(SupportedDESDATAs::GetAllSupportedDESDATAs()),
+                ElementsAre("CSATTA DES", "CSSHPA DES", "CSATTB", "CSCSDB", "CSEPHB", "CSSFAB"));
     EXPECT_EQ("", SubheaderFault("CSATTA DES               ", Attitude(1)));
     EXPECT_EQ("WARN: DESSHF \"csatta des\" is currently not supported by the Talvik CSM System.",
               SubheaderFault(" csatta des ", Attitude(1)));
