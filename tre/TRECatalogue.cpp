@@ -119,7 +119,7 @@ std::string ValuesText(const char* aValues)
     return text;
 }
 
-/// What is known of a layout: its rows, indented as they nest, with the values that have a meaning, and its sources.
+/// What is known of a layout: its rows, indented as they nest, with the values where they are a list, and its sources.
 void AppendLayout(const Detail::TreLayout& aLayout, std::string& aText)
 {
     aText += Detail::LayoutHelp(aLayout) + "\nFields:\n";
@@ -133,7 +133,7 @@ void AppendLayout(const Detail::TreLayout& aLayout, std::string& aText)
         } else {
             aText += indent + row.tag + "  " + row.label + " [" + WidthText(row) + ", " + Detail::NeedLetter(row.need);
             aText += *row.unit == '\0' ? "]\n" : std::string(", ") + row.unit + "]\n";
-            if (std::string_view(row.values).find('=', 1) != std::string_view::npos) {
+            if (std::string_view(row.values).find_first_of("=|", 1) != std::string_view::npos) {
                 aText += indent + "    " + ValuesText(row.values) + '\n';
             }
         }

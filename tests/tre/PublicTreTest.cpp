@@ -1,12 +1,17 @@
 // Lengths and fields of the public tags, written by hand from the formulas of their standards.
 
 #include "fields/FieldWalk.h"
+#include "foundation/CSMUtilString.h"
 #include "tests/tre/FilledRecord.h"
 #include "tests/tre/TreLayoutList.h"
+#include "tre/TREFactory.h"
 
+#include <memory>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -180,6 +185,151 @@ INSTANTIATE_TEST_SUITE_P(
                             {"ADDITIONAL_PARAMETER_DATA", "001"},
                             {"PARAMETER_SIZE_1", "004"},
                             {"PARAMETER_COUNT_1", "0003"}}}));
+
+/// A record as a producer would write it, in parts that are its fields.
+struct Written
+{
+    const char* tag;
+    std::vector<std::string> parts;
+    std::vector<std::pair<const char*, std::string>> values;
+};
+
+void PrintTo(const Written& aCase, std::ostream* aOut)
+{
+    *aOut << aCase.tag;
+}
+
+class WrittenRecordTest : public testing::TestWithParam<Written>
+{
+};
+
+TEST_P(WrittenRecordTest, IsCutWhereItsFieldsEndAndHasNoFault)
+{
+    std::string data;
+    for (const std::string& part : GetParam().parts) {
+        data += part;
+    }
+    TRE* made = nullptr;
+    char* errors = nullptr;
+    TREFactory::Create(GetParam().tag, data.data(), TRE::TRE_TYPE_UNKNOWN, &made, true, true, &errors, data.size());
+    const std::unique_ptr<TRE, void (*)(TRE*)> tre(made, [](TRE* aTre) { TREFactory::Destroy(&aTre); });
+    EXPECT_TRUE(errors == nullptr || *errors == '\0') << errors;
+    Util::CSMUtilString::DeleteCString(errors);
+    ASSERT_NE(nullptr, tre);
+    ASSERT_EQ(GetParam().parts.size(), tre->GetNumOfFields());
+    std::string name;
+    for (std::size_t i = 0; i != GetParam().parts.size(); ++i) {
+        const char* value = nullptr;
+        std::size_t length = 0;
+        ASSERT_TRUE(tre->GetFieldAt(i, name, value, length));
+        EXPECT_EQ(GetParam().parts[i], std::string(value, length)) << name;
+    }
+    for (const auto& [field, expected] : GetParam().values) {
+        const char* value = nullptr;
+        std::size_t length = 0;
+        ASSERT_TRUE(tre->GetFieldAsString(field, value, length)) << field;
+        EXPECT_EQ(expected, std::string(value, length)) << field;
+    }
+}
+
+std::string Padded(std::string aText, std::size_t aWidth)
+{
+    aText.resize(aWidth, ' ');
+    return aText;
+}
+
+const std::string ID = "01234567-89AB-cdef-0123-456789abcdef";
+const std::string MOMENT = "20260131120000.123------";
+const std::string RATE = "2.9970000E+01";
+
+INSTANTIATE_TEST_SUITE_P(
+    Records, WrittenRecordTest,
+    testing::Values(
+        Written{"BNDPLC",
+                {"001", "2", "0003", "+00000000010.50", "+00000000045.25", "+00000000011.50", "+00000000045.25",
+                 "+00000000011.50", "+00000000046.25"},
+                {{"LAT_1_3", "+00000000046.25"}}},
+        Written{"CAMSDA",
+                {"001", "001", "001", "001", ID, Padded("Nadir camera", 80), ID, "001", "000", "0000000000", "00001024",
+                 "00002048"},
+                {{"NCOLS_1_1", "00002048"}}},
+        Written{"COMNTA", {"Caf\xC3\xA9\r\nat noon"}, {{"COMMENT", "Caf\xC3\xA9\r\nat noon"}}},
+        Written{
+            "FASYWA", {MOMENT, std::string(24, '-'), "OFFSET", "00016", "0000001200000034"}, {{"TRETAG_1", "OFFSET"}}},
+        Written{"FREESA", {"\xFF\xFF\xFF"}, {}},
+        Written{"FSYNWA",
+                {"000000001", "000000000", "FREESA", "00001", "\xFF", "COMNTA", "00002", "ok"},
+                {{"TREDATA_2", "ok"}}},
+        Written{"ILLUMA", {"<ILLUMA xmlns=\"x\"><solAz>120.5</solAz></ILLUMA>"}, {}},
+        Written{"JITCID", {Padded("I_3228D checks something", 200)}, {}},
+        Written{"MICIDA", {"01", "001", ID, "005", "0101:"}, {{"CAMERA_CORE_ID_1", "0101:"}}},
+        Written{"MIMCSA", {ID, RATE, "NaN          ", RATE, "00", "C8", Padded("Profile 1", 36), "N/A   "}, {}},
+        Written{"MTIMFA",
+                {ID, "001", "000001", "001", ID, "002", MOMENT, MOMENT, "001", std::string(24, ' '),
+                 std::string(24, ' '), "   "},
+                {{"IMAGE_SEG_INDEX_1_1", "001"}}},
+        Written{"MTIMSA",
+                {"001", "00", ID, "001", std::string(36, ' '), "000001", "001", RATE, std::string(9, ' '), MOMENT,
+                 "\0\0\0\0\0\0\3\xE8"s, "\2", "\0\0\0\3"s, "\0\0\0\2"s, "\0\5"s, "\0\6"s},
+                {{"DT_2", "\0\6"s}}},
+        Written{"PATCHA",
+                {"0001", "1", "0000001", "0008888", "00020", "00020", "001", "00170", "00001", "   ", "75843.00",
+                 "220.122", "015.00", "0.999000"},
+                {{"GMT", "75843.00"}, {"FRAME", "   "}}},
+        Written{"RELCCA",
+                {"2026----", "0000", "0000", "0000", "0000", "0004", "NATO", "0000", "0007", "USA CAN", "0000"},
+                {{"COALID", "NATO"}}},
+        Written{"S2EVPA",
+                {"008", "radiance", "000", "00001", "00004", "2", "+0.12500000E+00", "+2.00000000E-02"},
+                {{"COEF_2", "+2.00000000E-02"}}},
+        Written{"SYSIDA", {"000", "000", "005", "Eye-7"}, {{"SENSOR_ID", "Eye-7"}}},
+        Written{
+            "TMINTA", {"0002", "000001", MOMENT, MOMENT, "000002", std::string(24, ' '), std::string(24, ' ')}, {}}));
+
+TEST(TreSENSRBTest, AnUnknownTypeOfValueIsNamedAndTheRecordKept)
+{
+    FieldStore store(TreSENSRB::Layout().table);
+    std::string record = ShortestRecord(TreSENSRB::Layout().table);
+    (void)FieldWalk::Read(record, store);
+    record.insert(static_cast<std::size_t>(store.Position(*store.Find("TIME_STAMPED_DATA_SETS"))) + 2,
+                  "04k0001000000000000");
+    record.replace(static_cast<std::size_t>(store.Position(*store.Find("TIME_STAMPED_DATA_SETS"))), 2, "01");
+    TRE* made = nullptr;
+    char* errors = nullptr;
+    TREFactory::Create("SENSRB", record.data(), TRE::TRE_TYPE_UNKNOWN, &made, false, false, &errors, record.size());
+    const std::unique_ptr<TRE, void (*)(TRE*)> tre(made, [](TRE* aTre) { TREFactory::Destroy(&aTre); });
+    ASSERT_NE(nullptr, tre);
+    EXPECT_TRUE(tre->IsGenericTRE());
+    const std::string text = errors == nullptr ? "" : errors;
+    Util::CSMUtilString::DeleteCString(errors);
+    EXPECT_NE(std::string::npos, text.find("TIME_STAMP_TYPE_1")) << text;
+    EXPECT_NE(std::string::npos, text.find("04k")) << text;
+}
+
+TEST(OftenBlankTest, ABlankThatIsUsualIsAWarning)
+{
+    const auto faults = [](const std::string& aLocation, std::string& aLines) {
+        FieldStore store(TreSTDIDC::Layout().table);
+        std::string record = ShortestRecord(TreSTDIDC::Layout().table);
+        (void)FieldWalk::Read(record, store);
+        record.replace(static_cast<std::size_t>(store.Position(*store.Find("LOCATION"))), 11, aLocation);
+        TRE* made = nullptr;
+        TREFactory::Create("STDIDC", record.data(), TRE::TRE_TYPE_UNKNOWN, &made, true, false, nullptr, record.size());
+        const int count = made->ValidateFieldValues(aLines);
+        TREFactory::Destroy(&made);
+        return count;
+    };
+    std::string good;
+    std::string blank;
+    std::string wrong;
+    const int others = faults("4512N07335W", good);
+    EXPECT_EQ(others, faults(std::string(11, ' '), blank));
+    EXPECT_EQ(others + 1, faults("4512N07335X", wrong));
+    EXPECT_EQ(std::string::npos, good.find("LOCATION")) << good;
+    EXPECT_NE(std::string::npos, blank.find("WARN: ")) << blank;
+    EXPECT_NE(std::string::npos, blank.find("LOCATION")) << blank;
+    EXPECT_NE(std::string::npos, wrong.find("LOCATION")) << wrong;
+}
 
 TEST(TreSENSRBTest, AValueIsAsWideAsTheFieldThatItsTypeNames)
 {
