@@ -20,6 +20,17 @@ bool CountColumns(const WalkContext& aContext, std::uint64_t& aOut)
     return aContext.CountInTurn("NCOLCB", aContext.Turn(), aOut);
 }
 
+/// A block without columns has no rows either, so that no row looks for columns in vain.
+bool CountRows(const WalkContext& aContext, std::uint64_t& aOut)
+{
+    std::uint64_t columns = 0;
+    if (!CountColumns(aContext, columns) || !aContext.Count("NROWCB", aOut)) {
+        return false;
+    }
+    aOut = columns == 0 ? 0 : aOut;
+    return true;
+}
+
 // clang-format off
 constexpr FieldRow HEAD[] = {
     //    tag      width need           form     values                       unit label
@@ -47,7 +58,7 @@ constexpr FieldRow TAIL[] = {
     End(),
     //    tag     width need      form  values unit label
     Repeat("NIMGE"),
-        Repeat("NROWCB"),
+        RepeatBy("NROWCB", CountRows, "NROWCB"),
             RepeatBy("NCOLCB of the image", CountColumns),
                 Field("CRSCOV", 21, Required, Real, "", "product of the units of the two parameters", "Cross-Covariance Element",
                       "One element of the covariance block between this image and image i, row by row; when both are "
