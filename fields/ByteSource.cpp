@@ -73,6 +73,14 @@ std::unique_ptr<ByteSource> ByteSource::OfStream(std::FILE* aStream, std::string
     return std::unique_ptr<ByteSource>(new ByteSource({}, descriptor, static_cast<std::uint64_t>(status.st_size)));
 }
 
+std::unique_ptr<ByteSource> ByteSource::OfMemory(std::string_view aBytes, bool aCopy, std::string aName)
+{
+    auto source = std::unique_ptr<ByteSource>(new ByteSource(std::move(aName), -1, aBytes.size()));
+    source->m_copy = aCopy ? std::string(aBytes) : std::string();
+    source->m_memory = aCopy ? std::string_view(source->m_copy) : aBytes;
+    return source;
+}
+
 ByteSource::ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize)
     : m_path(std::move(aPath)), m_descriptor(aDescriptor), m_size(aSize)
 {
@@ -80,7 +88,19 @@ ByteSource::ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize)
 
 ByteSource::~ByteSource()
 {
-    ::close(m_descriptor);
+    if (m_descriptor >= 0) {
+        ::close(m_descriptor);
+    }
+}
+
+std::FILE* ByteSource::OpenStream() const noexcept
+{
+    const int descriptor = m_descriptor < 0 ? -1 : ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
+    std::FILE* const stream = descriptor < 0 ? nullptr : ::fdopen(descriptor, "rb");
+    if (stream == nullptr && descriptor >= 0) {
+        ::close(descriptor);
+    }
+    return stream;
 }
 
 bool ByteSource::Read(std::uint64_t aOffset, std::uint64_t aLength, std::string& aOut) const
@@ -89,7 +109,16 @@ bool ByteSource::Read(std::uint64_t aOffset, std::uint64_t aLength, std::string&
     if (!Holds(aOffset, aLength)) {
         return false;
     }
+    if (IsMemory()) {
+        aOut = m_memory.substr(static_cast<std::size_t>(aOffset), static_cast<std::size_t>(aLength));
+        return true;
+    }
     aOut.resize(static_cast<std::size_t>(aLength));
+    return ReadInto(aOffset, aOut);
+}
+
+bool ByteSource::ReadInto(std::uint64_t aOffset, std::string& aOut) const
+{
     std::size_t done = 0;
     while (done != aOut.size()) {
         const ssize_t count =

@@ -8,8 +8,8 @@
 
 namespace ORMO::SensorModel::CSM::Detail {
 
-/// One open file: reads by offset, knows the real size, refuses a length that the file cannot hold. Never waits: only
-/// regular files are opened.
+/// One open file or one block of memory: reads by offset, knows the real size, refuses a length that it cannot hold.
+/// Never waits: only regular files are opened.
 class ByteSource
 {
 public:
@@ -19,6 +19,10 @@ public:
     /// The file behind a stream, which stays open and keeps its position. It has no path.
     [[nodiscard]] static std::unique_ptr<ByteSource> OfStream(std::FILE* aStream, std::string& aReason);
 
+    /// A block of memory; with `aCopy` a copy of it, else the bytes must live as long as the source. `aName` stands for
+    /// a path in messages.
+    [[nodiscard]] static std::unique_ptr<ByteSource> OfMemory(std::string_view aBytes, bool aCopy, std::string aName);
+
     ~ByteSource();
     ByteSource(const ByteSource&) = delete;
     ByteSource& operator=(const ByteSource&) = delete;
@@ -26,7 +30,10 @@ public:
     /// Bytes that the file held when it was opened.
     std::uint64_t Size() const noexcept { return m_size; }
     const std::string& Path() const noexcept { return m_path; }
-    int Descriptor() const noexcept { return m_descriptor; }
+    bool IsMemory() const noexcept { return m_descriptor < 0; }
+    /// A stdio stream of its own on the same open file, whatever became of its path; null for memory or when the system
+    /// refuses. The caller closes it.
+    [[nodiscard]] std::FILE* OpenStream() const noexcept;
 
     /// Whether `aLength` bytes stand at `aOffset`; never wraps.
     bool Holds(std::uint64_t aOffset, std::uint64_t aLength) const noexcept
@@ -43,10 +50,13 @@ public:
 
 private:
     ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize);
+    [[nodiscard]] bool ReadInto(std::uint64_t aOffset, std::string& aOut) const;
 
     std::string m_path;
     int m_descriptor;
     std::uint64_t m_size;
+    std::string m_copy;
+    std::string_view m_memory;
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -115,19 +115,19 @@ void FieldRecord::Describe(const WalkResult& aResult, Finding& aFinding) const
     const std::string left = std::to_string(aResult.available);
     switch (aResult.fault) {
         case Fault::Short:
-            aFinding.detail = wanted + " byte(s) needed, " + left + " left.";
+            aFinding.detail = wanted + " byte(s) needed, " + left + " left";
             break;
         case Fault::CountBeyondData:
-            aFinding.detail = "The value promises " + wanted + " byte(s), " + left + " left.";
+            aFinding.detail = "promises " + wanted + " byte(s), " + left + " left";
             break;
         case Fault::LengthTooSmall:
-            aFinding.detail = "The value is below " + wanted + ".";
+            aFinding.detail = "is below " + wanted;
             break;
         case Fault::UnknownCode:
             aFinding.detail = "The code is not known, so the width of what it describes is not known either.";
             break;
         default:
-            aFinding.detail = "The value is not a number.";
+            aFinding.detail = "is not a number";
             break;
     }
     if (aFinding.offset != Finding::NO_OFFSET) {

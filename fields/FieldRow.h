@@ -87,6 +87,7 @@ struct FieldRow
     bool rest = false;              ///< the field takes all bytes that are left; a repeat goes on while there are any
     CountFunction count = nullptr;  ///< width or count by function
     TestFunction condition = nullptr;
+    bool isReadThrough = false;   ///< of a repeat: it is begun even when its turns cannot all be there
     const char* alias = nullptr;  ///< another common spelling, accepted on look-up
     bool oftenBlank = false;      ///< a blank is against the rule but usual: it is worth a warning, not an error
 
@@ -119,6 +120,14 @@ struct FieldRow
     {
         FieldRow row = *this;
         row.sizeTag = aTag;
+        return row;
+    }
+    /// The same repeat, begun even when its turns cannot all be there: the first missing field tells more than the
+    /// count. For counts of few digits.
+    constexpr FieldRow ReadThrough() const noexcept
+    {
+        FieldRow row = *this;
+        row.isReadThrough = true;
         return row;
     }
     /// The same row, found by another spelling too.

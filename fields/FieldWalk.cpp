@@ -209,7 +209,7 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
     }
     // Refused before looping: the smallest possible body must fit `count` times into what is left. A count that the
     // table itself states is no claim of the data: there the first missing field tells more.
-    const bool isClaimed = m_table.Row(aRow).number == 0;
+    const bool isClaimed = m_table.Row(aRow).number == 0 && !m_table.Row(aRow).isReadThrough;
     const std::uint64_t least = LeastNow(aRow, aRow);
     const std::uint64_t wanted = Product(least, count);
     if (isClaimed && wanted > m_cursor.Remaining()) {

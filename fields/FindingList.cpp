@@ -16,9 +16,26 @@ bool IsError(Finding::Level aLevel) noexcept
     return aLevel != Finding::Level::Warning;
 }
 
-void AppendPart(std::string& aText, std::string_view aPart)
+/// The fixed sentences about a field are closed by its name; a sentence of its own is closed already.
+bool NamesField(const Finding& aFinding) noexcept
 {
-    aText += aText.empty() ? "" : ", ";
+    return !aFinding.field.empty() && !aFinding.sentence.ends_with('.');
+}
+
+std::string SentenceOf(const Finding& aFinding)
+{
+    std::string text = aFinding.sentence;
+    if (NamesField(aFinding)) {
+        text += ' ';
+        text += aFinding.owner.empty() ? "" : aFinding.owner + "::";
+        text += aFinding.field;
+    }
+    return text;
+}
+
+void AppendPart(std::string& aText, std::string_view aJoin, std::string_view aPart)
+{
+    aText += aText.empty() ? "" : aJoin;
     aText += aPart;
 }
 
@@ -26,52 +43,47 @@ void AppendPart(std::string& aText, std::string_view aPart)
 
 std::string Finding::Place() const
 {
-    std::string place;
-    if (!segment.empty()) {
-        AppendPart(place, index == NO_INDEX ? segment : segment + ' ' + std::to_string(index));
-    }
+    std::string place = index == NO_INDEX ? segment : segment + ' ' + std::to_string(index);
     if (!tre.empty()) {
-        AppendPart(place, "TRE " + Detail::Printable(tre) + (turn == 0 ? "" : ' ' + std::to_string(turn)));
+        AppendPart(place, ", ", "TRE " + Detail::Printable(tre) + (turn == 0 ? "" : ' ' + std::to_string(turn)));
     }
     if (!area.empty()) {
-        AppendPart(place, area);
+        AppendPart(place, ", ", area);
+    }
+    if (!field.empty() && !NamesField(*this)) {
+        AppendPart(place, " ", "field " + field);
     }
     if (offset != NO_OFFSET) {
-        AppendPart(place, "byte offset " + std::to_string(offset));
+        AppendPart(place, " at ", "byte offset " + std::to_string(offset));
     }
     if (!value.empty()) {
-        place += place.empty() ? "value " : ": value ";
-        place += Detail::Shown(value);
+        AppendPart(place, ": ", "value " + Detail::Shown(value));
+    }
+    if (!detail.empty()) {
+        AppendPart(place, value.empty() ? ": " : " ", detail);
     }
     if (!allowed.empty()) {
-        AppendPart(place, "allowed " + allowed);
+        AppendPart(place, ", ", "allowed " + allowed);
     }
     if (!clause.empty()) {
-        AppendPart(place, clause);
+        AppendPart(place, ", ", clause);
     }
     return place;
 }
 
 std::string Finding::Line() const
 {
-    std::string line = sentence;
-    if (!field.empty()) {
-        line += ' ';
-        line += owner.empty() ? "" : owner + "::";
-        line += field;
-    }
-    if (!detail.empty()) {
-        line += ' ';
-        line += detail;
-    }
     const std::string place = Place();
-    if (!place.empty()) {
-        line += " [" + place + ']';
-    }
-    return Detail::Printable(line);
+    return Detail::Printable(place.empty() ? SentenceOf(*this) : SentenceOf(*this) + " [" + place + ']');
 }
 
 namespace Detail {
+
+std::string Block(const Finding& aFinding)
+{
+    const std::string place = aFinding.Place();
+    return place.empty() ? SentenceOf(aFinding) : SentenceOf(aFinding) + "\n[" + Printable(place) + ']';
+}
 
 Finding MakeFinding(Finding::Level aLevel, std::string_view aSentence, std::string_view aOwner, std::string_view aField)
 {
@@ -156,7 +168,7 @@ std::string FindingList::Joined(bool aErrors, const FindingMark& aSince, std::st
         const Entry& entry = m_kept[i];
         if (IsError(entry.finding.level) == aErrors) {
             text += shown++ == 0 ? "" : aJoin;
-            text += aLines || entry.text.empty() ? entry.finding.Line() : entry.text;
+            text += aLines ? entry.finding.Line() : entry.text.empty() ? Block(entry.finding) : entry.text;
         }
     }
     const std::size_t all = aErrors ? Errors(aSince) : Warnings(aSince);

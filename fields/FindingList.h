@@ -87,6 +87,10 @@ private:
     std::array<std::size_t, 3> m_counts{};
 };
 
+/// What the error and warning texts of operations say of a finding that has no text of its own: the sentence, and in
+/// brackets on a line below it what else is known.
+std::string Block(const Finding& aFinding);
+
 /// A finding about a field: the fixed sentence, whose field, which one.
 Finding MakeFinding(Finding::Level aLevel, std::string_view aSentence, std::string_view aOwner = {},
                     std::string_view aField = {});

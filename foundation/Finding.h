@@ -37,8 +37,8 @@ struct ORMO_CSM_API Finding
     std::string area;                  ///< extension area, such as "IXSHD" or "TRE_OVERFLOW"
     std::uint64_t offset = NO_OFFSET;  ///< byte offset in the file
 
-    /// All of it in one line, without a control byte: the sentence with owner and field, the detail, and in brackets
-    /// segment, TRE, area, byte offset, value and what is allowed.
+    /// All of it in one line, without a control byte: the sentence, and in brackets segment, TRE, area, field, byte
+    /// offset, value, detail and what is allowed.
     std::string Line() const;
     /// The part of the line in brackets without them; empty when nothing of it is known.
     std::string Place() const;

@@ -29,14 +29,15 @@ void CopyIfGiven(const std::string& aFrom, std::string& aTo)
 
 }  // namespace
 
-ImageSupportData::ImageSupportData(const char* aFileName, const char* aImageFormat, const char* aFormatVersion)
+ImageSupportData::ImageSupportData(const char* aFileName, const char* aImageFormat, const char* aFormatVersion,
+                                   bool aIsOpen)
     : m_fileName(Trimmed(aFileName)), m_imageFormat(Trimmed(aImageFormat)), m_formatVersion(Trimmed(aFormatVersion))
 {
     constexpr const char* SOURCE = "ImageSupportData::ImageSupportData";
     if (m_imageFormat.empty()) {
         throw InitializationException("ERROR: Input image format string cannot be NULL or an empty string.", SOURCE);
     }
-    if (!Util::CSMUtilFile::FileExists(m_fileName)) {
+    if (!aIsOpen && !Util::CSMUtilFile::FileExists(m_fileName)) {
         // The text names NITF whatever the format is.
         throw InitializationException("ERROR: Invalid/nonexistence of input NITF file.", SOURCE);
     }

@@ -113,9 +113,9 @@ public:
 
 protected:
     ImageSupportData() = default;
-    /// Trims the texts; the format version may be null. Throws InitializationException for an empty format and for a
-    /// path that leads to no file.
-    ImageSupportData(const char* aFileName, const char* aImageFormat, const char* aFormatVersion);
+    /// Trims the texts; the format version may be null. Throws InitializationException for an empty format and, unless
+    /// whoever calls has the file open already, for a path that leads to no file.
+    ImageSupportData(const char* aFileName, const char* aImageFormat, const char* aFormatVersion, bool aIsOpen = false);
     /// A deep copy. Throws RequestedOperationFailedException when it fails.
     ImageSupportData(const ImageSupportData& aOther);
 

@@ -8,6 +8,7 @@
 #include "isd/ImageSupportDataOSDEFactory.h"
 #include "isd/WrapperCSMISD.h"
 #include "isd/detail/IsdCompanion.h"
+#include "isd/detail/IsdParts.h"
 #include "nitf/NITFCnst.h"
 #include "raster/GDALNITFFileReader.h"
 #include "raster/GDALOSDEFileReader.h"
@@ -26,6 +27,8 @@ Detail::LastMessages& Messages() noexcept
     thread_local Detail::LastMessages messages;
     return messages;
 }
+
+constexpr const char* UNSUPPORTED_FORMAT = "ERROR: Image format not supported by the Ormo CSM System.";
 
 [[noreturn]] void RefuseArguments()
 {
@@ -98,30 +101,6 @@ ImageSupportData* CreateByCompanion(const IsdCompanion& aCompanion, const char* 
     }
 }
 
-/// Hands the work to the format's factory; null, with the reason in aError, when it makes nothing.
-ImageSupportData* CreateByFormat(const char* aPath, bool aAllSegments, bool aFlag2, const Identity& aIdentity,
-                                 const char*& aError)
-{
-    if (aIdentity.type == SupportedISD::ISD_TYPE_NITF) {
-        ImageSupportDataNITF* isd = nullptr;
-        // The flag of the NITF factory means the opposite: image segments only.
-        ImageSupportDataNITFFactory::Create(aPath, &isd, !aAllSegments, aFlag2, -1,
-                                            static_cast<NITFCnst::Version>(aIdentity.version));
-        Messages().SetWarning(ImageSupportDataNITFFactory::GetWarningMessage());
-        aError = ImageSupportDataNITFFactory::GetErrorMessage();
-        return isd;
-    }
-    if (aIdentity.type == SupportedISD::ISD_TYPE_OSDE) {
-        ImageSupportData* isd = nullptr;
-        ImageSupportDataOSDEFactory::Create(aPath, &isd, aFlag2, aIdentity.version);
-        Messages().SetWarning(ImageSupportDataOSDEFactory::GetWarningMessage());
-        aError = ImageSupportDataOSDEFactory::GetErrorMessage();
-        return isd;
-    }
-    aError = "ERROR: Image format not supported by the Ormo CSM System.";
-    return nullptr;
-}
-
 }  // namespace
 
 void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2)
@@ -129,6 +108,22 @@ void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut,
     Messages().Clear();
     if (aOut == nullptr) {
         RefuseArguments();
+    }
+    if (IsdCompanion::Secret().isdType == nullptr && IsdCompanion::Maker() == nullptr) {
+        // Nobody else is asked, so the file that is identified is the one that is read.
+        ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::Open(aPath);
+        request.imageSegmentsOnly = !aAllSegments;
+        request.specificOnly = aFlag2 || NITFCnst::CREATE_SPECIFIC_TRE_ONLY;
+        if (request.version != NITFCnst::NITF_VERSION_NUMBER_UNKNOWN) {
+            *aOut = nullptr;
+            CreateNitf(request, aOut);
+            return;
+        }
+        int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+        if (!GDALOSDEFileReader::IsOSDEFile(aPath, version)) {
+            Messages().findings = {request.NotIdentified("ERROR: Invalid input argument(s).")};
+            RefuseArguments();
+        }
     }
     const Identity identity = Identify(aPath);
     const bool isNitf = identity.type == SupportedISD::ISD_TYPE_NITF;
@@ -143,6 +138,53 @@ void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut,
     } else if (isNitf || isOsde) {
         CreateISD(aPath, aOut, aAllSegments, aFlag2, identity.version, identity.type);
     }
+}
+
+void ImageSupportDataFactory::CreateFromMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName,
+                                               ImageSupportData** aOut, bool aAllSegments, bool aFlag2)
+{
+    Messages().Clear();
+    if (aOut == nullptr || aBytes == nullptr) {
+        RefuseArguments();
+    }
+    *aOut = nullptr;
+    ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::OfMemory(aBytes, aLength, aCopy, aName);
+    request.imageSegmentsOnly = !aAllSegments;
+    request.specificOnly = aFlag2;
+    CreateNitf(request, aOut);
+}
+
+void ImageSupportDataFactory::Salvage(const char* aPath, ImageSupportData** aOut)
+{
+    Messages().Clear();
+    if (aOut == nullptr) {
+        RefuseArguments();
+    }
+    *aOut = nullptr;
+    ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::Open(aPath);
+    request.salvage = true;
+    CreateNitf(request, aOut);
+}
+
+void ImageSupportDataFactory::CreateNitf(ImageSupportDataNITF::Request& aRequest, ImageSupportData** aOut)
+{
+    ImageSupportDataNITF* isd = nullptr;
+    try {
+        ImageSupportDataNITFFactory::Create(aRequest, &isd);
+    } catch (const std::bad_alloc&) {
+        Messages().SetError("ERROR: System out of memory.");
+        throw;
+    } catch (const CSMException& exception) {
+        Messages().findings = ImageSupportDataNITFFactory::GetFindings();
+        const char* const text = exception.GetAdditionalMessage();
+        FailConstruction(text == nullptr || *text == '\0' ? exception.GetErrorMessage() : text);
+    }
+    Messages().SetWarning(ImageSupportDataNITFFactory::GetWarningMessage());
+    Messages().findings = ImageSupportDataNITFFactory::GetFindings();
+    if (isd == nullptr) {
+        FailConstruction(ImageSupportDataNITFFactory::GetErrorMessage());
+    }
+    *aOut = isd;
 }
 
 void ImageSupportDataFactory::Create(const WrapperCSMISD* /*aIsd*/, ImageSupportData** aOut, bool /*aFlag*/)
@@ -166,22 +208,27 @@ void ImageSupportDataFactory::CreateISD(const char* aPath, ImageSupportData** aO
         RefuseArguments();
     }
     *aOut = nullptr;
-    Identity identity{aType, aVersion};
-    if (aType == SupportedISD::ISD_TYPE_NITF && !IsReadableNitf(aVersion)) {
-        identity = IdentifyBuiltIn(aPath);
+    if (aType == SupportedISD::ISD_TYPE_NITF) {
+        ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::Open(aPath);
+        request.imageSegmentsOnly = !aAllSegments;
+        request.specificOnly = aFlag2 || NITFCnst::CREATE_SPECIFIC_TRE_ONLY;
+        if (IsReadableNitf(aVersion)) {
+            request.version = static_cast<NITFCnst::Version>(aVersion);
+        }
+        if (request.version == NITFCnst::NITF_VERSION_NUMBER_UNKNOWN) {
+            Messages().findings = {request.NotIdentified(UNSUPPORTED_FORMAT)};
+            FailConstruction(UNSUPPORTED_FORMAT);
+        }
+        CreateNitf(request, aOut);
+        return;
     }
-    const char* error = nullptr;
-    try {
-        *aOut = CreateByFormat(aPath, aAllSegments, aFlag2, identity, error);
-    } catch (const std::bad_alloc&) {
-        Messages().SetError("ERROR: System out of memory.");
-        throw std::bad_alloc();
-    } catch (const CSMException& exception) {
-        const char* const text = exception.GetAdditionalMessage();
-        FailConstruction(text == nullptr || *text == '\0' ? exception.GetErrorMessage() : text);
+    if (aType != SupportedISD::ISD_TYPE_OSDE) {
+        FailConstruction(UNSUPPORTED_FORMAT);
     }
+    ImageSupportDataOSDEFactory::Create(aPath, aOut, aFlag2, aVersion);
+    Messages().SetWarning(ImageSupportDataOSDEFactory::GetWarningMessage());
     if (*aOut == nullptr) {
-        FailConstruction(error);
+        FailConstruction(ImageSupportDataOSDEFactory::GetErrorMessage());
     }
 }
 
@@ -230,6 +277,11 @@ bool ImageSupportDataFactory::IsSupportedISDFile(const char* aPath, const char*&
         return false;
     }
     return ImageSupportDataNITFFactory::IsSupportedISDFile(aPath, aFormatName);
+}
+
+const std::vector<Finding>& ImageSupportDataFactory::GetFindings() noexcept
+{
+    return Messages().findings;
 }
 
 const char* ImageSupportDataFactory::GetErrorMessage() noexcept

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "../foundation/Export.h"
+#include "ImageSupportDataNITF.h"
 #include "SupportedISD.h"
+
+#include <cstddef>
+#include <vector>
 
 namespace ORMO::SensorModel::CSM {
 
-class ImageSupportData;
 class WrapperCSMISD;
 
 /// The one entry through which an image file, or a CSM API ISD, becomes an ImageSupportData; never instantiated.
@@ -21,6 +24,17 @@ public:
     ///
     /// Throws std::invalid_argument for a null output and for a file of no known format, else what CreateISD throws.
     static void Create(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2);
+
+    /// Makes an ISD of a NITF file, or of its first part, that stands in memory. With `aCopy` the bytes are copied,
+    /// else they must live as long as the ISD. `aName` stands for the path in messages; null for "memory". Segments
+    /// whose data lie beyond the bytes have none. No companion is asked. Throws as CreateISD.
+    static void CreateFromMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName,
+                                 ImageSupportData** aOut, bool aAllSegments, bool aFlag2);
+
+    /// Makes an ISD of what can be read of a damaged NITF file: segments whose subheaders cannot be read are null, with
+    /// their place in the segment information and the reason among the findings of the ISD. Nothing is guessed. No
+    /// companion is asked. Throws as CreateISD when not even the file header can be read.
+    static void Salvage(const char* aPath, ImageSupportData** aOut);
 
     /// Makes an ISD of a CSM API ISD. Throws UnsupportedImageSupportDataException for a null argument and for a wrapper
     /// of a class that the library does not know.
@@ -44,6 +58,9 @@ public:
     /// Whether an ISD can be made of the file; aFormatName is then its format, else null. Never throws.
     static bool IsSupportedISDFile(const char* aPath, const char*& aFormatName) noexcept;
 
+    /// What this thread's last call that makes an ISD found wrong with a file that it refused, the reason why a file
+    /// cannot be opened or is no NITF file included; empty when there was nothing.
+    static const std::vector<Finding>& GetFindings() noexcept;
     /// Texts of this thread's last call that makes or destroys, null when there is nothing to say. They live until the
     /// next such call.
     static const char* GetErrorMessage() noexcept;
@@ -51,6 +68,8 @@ public:
 
 private:
     ImageSupportDataFactory();
+
+    static void CreateNitf(ImageSupportDataNITF::Request& aRequest, ImageSupportData** aOut);
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../foundation/Export.h"
+#include "../foundation/Finding.h"
 #include "../segments/NITFStdDataSegmentInfo.h"
 #include "../segments/des/NITFDESSubheader.h"
 #include "../segments/fileheader/NITFFileHeader.h"
@@ -18,46 +19,54 @@
 
 namespace ORMO::SensorModel::CSM {
 
-namespace Detail {
-class ByteSource;
-struct TsmViews;
-}  // namespace Detail
-
 /// The image support data of a NITF or NSIF file: owns the file header and every segment that is read, and answers for
 /// them by kind and index. Made and destroyed by the factories only. What is handed out by pointer lives as long as the
 /// object.
 class ORMO_CSM_API ImageSupportDataNITF : public ImageSupportData
 {
 public:
+    // What only the library's own sources can look into: what is to be opened, and what was read of it.
+    struct Request;
+    struct Parts;
+
     ~ImageSupportDataNITF() override;
 
     /// The version that the first bytes of a file tell: 20, 21 (also for NSIF 1.0), or -1.
     static int Identify(const unsigned char* aHeaderBytes, std::size_t aLength);
 
     // The file.
-    const NITFFileHeader* GetNITFFileHeader() const noexcept { return m_header.get(); }
+    const NITFFileHeader* GetNITFFileHeader() const noexcept;
     /// The real size in bytes, whatever the header says.
     std::uint64_t GetNITFFileSize() const noexcept;
-    NITFCnst::Version GetNITFFileVersionCode() const noexcept { return m_version; }
+    NITFCnst::Version GetNITFFileVersionCode() const noexcept { return GetNITFFileHeader()->GetVersion(); }
     const char* GetNITFFileVersionNumber() const noexcept { return GetFormatVersion(); }
     /// "NITF02.10", "NITF02.00" or "NSIF01.00".
     const char* GetFileTypeAndVersion() const override;
-    const char* GetNITFFileTitle() const noexcept { return m_header->GetFieldFTITLE(); }
-    const char* GetNITFFileOriginatorName() const noexcept { return m_header->GetFileOriginatorName(); }
-    const char* GetNITFFileOriginatorPhoneNumber() const noexcept { return m_header->GetFileOriginatorPhoneNumber(); }
-    const char* GetNITFFileOriginatingStationID() const noexcept { return m_header->GetFileOriginatingStationID(); }
-    const char* GetNITFFileSecurityClassification() const noexcept { return m_header->GetFileSecurityClassification(); }
+    const char* GetNITFFileTitle() const noexcept { return GetNITFFileHeader()->GetFieldFTITLE(); }
+    const char* GetNITFFileOriginatorName() const noexcept { return GetNITFFileHeader()->GetFileOriginatorName(); }
+    const char* GetNITFFileOriginatorPhoneNumber() const noexcept
+    {
+        return GetNITFFileHeader()->GetFileOriginatorPhoneNumber();
+    }
+    const char* GetNITFFileOriginatingStationID() const noexcept
+    {
+        return GetNITFFileHeader()->GetFileOriginatingStationID();
+    }
+    const char* GetNITFFileSecurityClassification() const noexcept
+    {
+        return GetNITFFileHeader()->GetFileSecurityClassification();
+    }
     bool GetNITFFileBackgroundColor(int& aRed, int& aGreen, int& aBlue) const noexcept
     {
-        return m_header->GetFileBackgroundColor(aRed, aGreen, aBlue);
+        return GetNITFFileHeader()->GetFileBackgroundColor(aRed, aGreen, aBlue);
     }
-    Util::CSMCnst::ByteOrder GetRPFFileByteOrder() const noexcept { return m_header->GetRPFFileByteOrder(); }
+    Util::CSMCnst::ByteOrder GetRPFFileByteOrder() const noexcept { return GetNITFFileHeader()->GetRPFFileByteOrder(); }
     SupportedISD::Type GetIsdRasterFormat() override;
     /// The file as a stdio stream, opened when first asked for.
     std::FILE* GetFileHandle() const override;
 
     // The segments. An index outside gives null.
-    const NITFStdDataSegmentInfos& GetSegmentInfos() const noexcept { return m_infos; }
+    const NITFStdDataSegmentInfos& GetSegmentInfos() const noexcept;
     long GetNumOfImageSegments() const override;
     const NITFImageSubheader* GetImageSubheader(std::size_t aIndex) const noexcept;
     const NITFTextSubheader* GetTextSubheader(std::size_t aIndex) const noexcept;
@@ -71,7 +80,7 @@ public:
     bool GetAllDataSegmentTREs(NITFCnst::DataSegmentType aKind, std::size_t aIndex, const TRE**& aArray,
                                std::size_t& aCount, bool aIncludeOverflow) const;
     /// Whether the TREs of an overflow DES were handed to the segment that it names; else they stay on the DES.
-    bool IsOverflowPlaced(std::size_t aDes) const noexcept { return aDes < m_placed.size() && m_placed[aDes]; }
+    bool IsOverflowPlaced(std::size_t aDes) const noexcept;
     /// Writes the data of a segment, of any kind, to a stream in pieces. False with a text in GetErrorMessage when
     /// there is no such segment, its data are not all in the file, or writing fails.
     bool WriteSegmentData(NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::FILE* aOut);
@@ -85,9 +94,10 @@ public:
     bool GetFieldAsString(const char* aSegment, const char* aField, const char*& aValue, std::size_t& aLength) override;
     bool GetFieldAsUnsignedLong(const char* aSegment, const char* aField, unsigned long& aValue) override;
 
-    /// What was found on reading, one text per fault, in the order of the file. Capped; the last text then says how
-    /// many more there were.
-    const std::vector<std::string>& GetWarnings() const noexcept { return m_warnings; }
+    /// What was found on reading, in the order in which it was met. Capped; GetWarnings says how many more there were.
+    std::vector<Finding> GetFindings() const;
+    /// The same as lines for a person.
+    std::vector<std::string> GetWarnings() const;
 
     // The file as ISDs of the CSM API, which sensor-model plug-ins take. TREs of overflow DESs stand behind the own
     // ones of the header that they belong to; the DESs stay in the list of DESs. Data of a DES that are not all in the
@@ -121,82 +131,30 @@ public:
 
     const char* Serialize() override;
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
-    /// The findings of the last rigorous validation, one line each, errors first.
-    const std::vector<std::string>& GetValidationLines() const noexcept { return m_validationLines; }
+    /// The findings of the last rigorous validation, those of reading included, errors first.
+    std::vector<Finding> GetValidationFindings() const;
+    /// The same as lines for a person.
+    std::vector<std::string> GetValidationLines() const;
+    /// For the library's own sources.
+    const Parts& Inside() const noexcept { return *m_parts; }
 
 protected:
-    ImageSupportDataNITF(const char* aPath, NITFCnst::Version aVersion);
-
-    /// Opens the file and reads everything. Raises ImageSupportDataConstructionException with all errors; hands the
-    /// warnings out as a new text.
-    void InitImageSupportDataNITF(bool aImageSegmentsOnly, bool aSpecificOnly, char** aErrors, char** aWarnings,
-                                  int aImageSegment);
-
-    // What a version supplies.
-    virtual std::unique_ptr<NITFFileHeader> CreateNITFFileHeader(const std::string& aRaw, bool aStreaming,
-                                                                 bool aSpecificOnly) const = 0;
-    virtual std::unique_ptr<NITFImageSubheader> CreateNITFImageSubheader(const std::string& aRaw,
-                                                                         const NITFStdDataSegmentInfo& aInfo,
-                                                                         bool aSpecificOnly) const = 0;
-    virtual std::unique_ptr<NITFTextSubheader> CreateNITFTextSubheader(const std::string& aRaw,
-                                                                       const NITFStdDataSegmentInfo& aInfo,
-                                                                       bool aSpecificOnly) const = 0;
-    virtual std::unique_ptr<NITFDESSubheader> CreateNITFDESSubheader(const std::string& aRaw,
-                                                                     const NITFStdDataSegmentInfo& aInfo,
-                                                                     bool aSpecificOnly) const = 0;
-    virtual std::unique_ptr<NITFRESSubheader> CreateNITFRESSubheader(const std::string& aRaw,
-                                                                     const NITFStdDataSegmentInfo& aInfo,
-                                                                     bool aSpecificOnly) const = 0;
+    /// Reads everything that the request asks for. Raises InitializationException for a path that leads to no file and
+    /// ImageSupportDataConstructionException with all errors, which then stand in the request's findings too.
+    explicit ImageSupportDataNITF(Request& aRequest);
 
     void CollectSecurityClassificationMarkings(std::vector<std::string>& aMarkings) const override;
     void SetHighestSecurityClassificationMarking() override;
 
-    const std::shared_ptr<const Detail::ByteSource>& Source() const noexcept { return m_source; }
-    const char* VersionText() const noexcept { return m_versionText.c_str(); }
-    /// The byte order of binary TRE fields: that of the raster product format when the file is one.
-    Util::CSMCnst::ByteOrder TreByteOrder() const noexcept;
-
 private:
-    void InitFileHeader(bool aSpecificOnly);
-    void CheckLengths();
-    void CheckSegmentPlaces();
-    void InitImageSubheaders(bool aSpecificOnly);
-    void ExtractTextSegments(bool aSpecificOnly);
-    void ExtractDESs(bool aSpecificOnly);
-    void ExtractRESs(bool aSpecificOnly);
-    void CheckUnreadSegments();
-    void SetDataSegmentsOverflowTREs();
-    void PlaceOverflowTREs(std::size_t aDes, std::vector<std::string>& aTargets);
-    void CheckOverflowNumbers();
-    template<typename Subheader, typename Create>
-    void ReadSegments(NITFCnst::DataSegmentType aKind, std::vector<std::unique_ptr<Subheader>>& aSegments,
-                      Create aCreate);
-    std::string RawSubheader(const NITFStdDataSegmentInfo& aInfo) const;
     NITFFieldSegment* Segment(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const noexcept;
+    /// The same, with a text in GetErrorMessage when there is none.
+    NITFFieldSegment* AskedSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex);
     NITFFieldSegment* SegmentOfName(const char* aName);
     template<typename Value, typename Ask>
     bool AskSegment(const char* aSegment, Value& aValue, Ask aAsk);
-    void AddWarning(const std::string& aText);
-    void AddSegmentWarning(const NITFStdDataSegment& aSegment, std::size_t aIndex);
-    template<typename Subheader>
-    void AppendSegments(std::string& aXml, const char* aGroup,
-                        const std::vector<std::unique_ptr<Subheader>>& aSegments) const;
 
-    NITFCnst::Version m_version;
-    std::string m_versionText;
-    std::shared_ptr<const Detail::ByteSource> m_source;
-    std::unique_ptr<NITFFileHeader> m_header;
-    NITFStdDataSegmentInfos m_infos;
-    std::vector<std::unique_ptr<NITFImageSubheader>> m_images;
-    std::vector<std::unique_ptr<NITFTextSubheader>> m_texts;
-    std::vector<std::unique_ptr<NITFDESSubheader>> m_des;
-    std::vector<std::unique_ptr<NITFRESSubheader>> m_res;
-    std::vector<bool> m_placed;
-    std::vector<std::string> m_warnings;
-    std::vector<std::string> m_validationLines;
-    std::size_t m_warningCount = 0;
-    mutable std::FILE* m_stream = nullptr;
-    std::unique_ptr<Detail::TsmViews> m_tsmViews;
+    std::unique_ptr<Parts> m_parts;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -14,30 +14,10 @@ public:
 
     ~ImageSupportDataNITF21() override;
 
-protected:
-    std::unique_ptr<NITFFileHeader> CreateNITFFileHeader(const std::string& aRaw, bool aStreaming,
-                                                         bool aSpecificOnly) const override;
-    std::unique_ptr<NITFImageSubheader> CreateNITFImageSubheader(const std::string& aRaw,
-                                                                 const NITFStdDataSegmentInfo& aInfo,
-                                                                 bool aSpecificOnly) const override;
-    std::unique_ptr<NITFTextSubheader> CreateNITFTextSubheader(const std::string& aRaw,
-                                                               const NITFStdDataSegmentInfo& aInfo,
-                                                               bool aSpecificOnly) const override;
-    std::unique_ptr<NITFDESSubheader> CreateNITFDESSubheader(const std::string& aRaw,
-                                                             const NITFStdDataSegmentInfo& aInfo,
-                                                             bool aSpecificOnly) const override;
-    std::unique_ptr<NITFRESSubheader> CreateNITFRESSubheader(const std::string& aRaw,
-                                                             const NITFStdDataSegmentInfo& aInfo,
-                                                             bool aSpecificOnly) const override;
-
 private:
     friend class ImageSupportDataNITFFactory;
 
-    /// Reads the file. With `aImageSegmentsOnly`, segments behind the images are left out; with `aSpecificOnly`, so are
-    /// TREs without a typed form. `aImageSegment` becomes the current image segment when it is not negative. Raises
-    /// InitializationException and ImageSupportDataConstructionException; warnings are handed out as a new text.
-    ImageSupportDataNITF21(const char* aPath, char** aErrors, char** aWarnings, bool aImageSegmentsOnly,
-                           bool aSpecificOnly, int aImageSegment);
+    explicit ImageSupportDataNITF21(Request& aRequest);
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,21 +1,20 @@
 #include "isd/ImageSupportDataNITFFactory.h"
 
 #include "foundation/CSMException.h"
-#include "foundation/CSMUtilString.h"
 #include "foundation/detail/LastMessages.h"
 #include "isd/ImageSupportDataNITF20.h"
 #include "isd/ImageSupportDataNITF21.h"
 #include "isd/SupportedISD.h"
 #include "isd/WrapperCSMISD.h"
 #include "isd/detail/IsdCompanion.h"
+#include "isd/detail/IsdParts.h"
 #include "raster/GDALNITFFileReader.h"
 
-#include <string>
+#include <memory>
 
 namespace ORMO::SensorModel::CSM {
 
 using Detail::IsdCompanion;
-using Util::CSMUtilString;
 
 namespace {
 
@@ -26,22 +25,6 @@ Detail::LastMessages& Messages() noexcept
     thread_local Detail::LastMessages messages;
     return messages;
 }
-
-/// The texts that a constructor hands out.
-struct ConstructorTexts
-{
-    ConstructorTexts() = default;
-    ConstructorTexts(const ConstructorTexts&) = delete;
-    ConstructorTexts& operator=(const ConstructorTexts&) = delete;
-    ~ConstructorTexts()
-    {
-        CSMUtilString::DeleteCString(errors);
-        CSMUtilString::DeleteCString(warnings);
-    }
-
-    char* errors = nullptr;
-    char* warnings = nullptr;
-};
 
 bool IsKnown(NITFCnst::Version aVersion)
 {
@@ -86,49 +69,57 @@ bool ImageSupportDataNITFFactory::Create(const char* aPath, ImageSupportDataNITF
         *aOut = CreateByCompanion(*companion, aPath, aImageSegmentsOnly, aFlag2, aImageSegment, aVersion);
         return *aOut != nullptr;
     }
-    const std::string path = CSMUtilString::Trim(aPath == nullptr ? "" : aPath);
-    if (!IsKnown(aVersion)) {
-        int found = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
-        GDALNITFFileReader::IsNITFFile(path.c_str(), found);
-        aVersion = static_cast<NITFCnst::Version>(found);
+    ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::Open(aPath);
+    if (IsKnown(aVersion)) {
+        request.version = aVersion;
     }
-    try {
-        *aOut = Construct(path.c_str(), aImageSegmentsOnly, aFlag2, aImageSegment, aVersion).release();
-    } catch (const CSMException& exception) {
-        Messages().SetError(exception.GetAdditionalMessage());
-        throw;
-    }
-    return *aOut != nullptr;
+    request.imageSegmentsOnly = aImageSegmentsOnly;
+    request.specificOnly = aFlag2 || NITFCnst::CREATE_SPECIFIC_TRE_ONLY;
+    request.imageSegment = aImageSegment;
+    return Create(request, aOut);
 }
 
-std::unique_ptr<ImageSupportDataNITF> ImageSupportDataNITFFactory::Construct(const char* aPath, bool aImageSegmentsOnly,
-                                                                             bool aFlag2, int aImageSegment,
-                                                                             NITFCnst::Version aVersion)
+bool ImageSupportDataNITFFactory::Create(ImageSupportDataNITF::Request& aRequest, ImageSupportDataNITF** aOut)
 {
-    std::unique_ptr<ImageSupportDataNITF> isd;
-    ConstructorTexts texts;
-    switch (aVersion) {
+    Messages().Clear();
+    *aOut = nullptr;
+    try {
+        std::unique_ptr<ImageSupportDataNITF> isd = Construct(aRequest);
+        if (isd != nullptr) {
+            Messages().SetError(isd->GetErrorMessage());
+            Messages().SetWarning(isd->GetWarningMessage());
+            *aOut = isd.release();
+            return true;
+        }
+        Messages().findings = aRequest.findings.Findings();
+        return false;
+    } catch (const CSMException& exception) {
+        Messages().SetError(exception.GetAdditionalMessage());
+        Messages().findings = aRequest.findings.Findings();
+        throw;
+    }
+}
+
+std::unique_ptr<ImageSupportDataNITF> ImageSupportDataNITFFactory::Construct(ImageSupportDataNITF::Request& aRequest)
+{
+    const auto refuse = [&aRequest](const char* aText) {
+        Messages().SetError(aText);
+        aRequest.findings.Add(aRequest.NotIdentified(aText));
+        return nullptr;
+    };
+    switch (aRequest.version) {
         case NITFCnst::NITF_VERSION_NUMBER_20:
-            isd.reset(new ImageSupportDataNITF20(aPath, &texts.errors, &texts.warnings, aImageSegmentsOnly, aFlag2,
-                                                 aImageSegment));
-            break;
+            return std::unique_ptr<ImageSupportDataNITF>(new ImageSupportDataNITF20(aRequest));
         case NITFCnst::NITF_VERSION_NUMBER_21:
         case NITFCnst::NSIF_VERSION_NUMBER_10:
             // NSIF 1.0 is NITF 2.1 under another name.
-            isd.reset(new ImageSupportDataNITF21(aPath, &texts.errors, &texts.warnings, aImageSegmentsOnly, aFlag2,
-                                                 aImageSegment));
-            break;
+            return std::unique_ptr<ImageSupportDataNITF>(new ImageSupportDataNITF21(aRequest));
         case NITFCnst::NITF_VERSION_NUMBER_11:
-            Messages().SetError("ERROR: NITF Version 1.1 is not supported.");
-            return isd;
+            return refuse("ERROR: NITF Version 1.1 is not supported.");
         default:
-            Messages().SetError(
+            return refuse(
                 "ERROR: Unknown/invalid NITF file version or the input file is not a NITF-formatted image file.");
-            return isd;
     }
-    Messages().SetError(texts.errors);
-    Messages().SetWarning(texts.warnings);
-    return isd;
 }
 
 bool ImageSupportDataNITFFactory::Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool /*aFlag*/,
@@ -172,6 +163,11 @@ bool ImageSupportDataNITFFactory::IsSupportedISDFile(const char* aPath, const ch
         return false;
     }
     return aFormatName != nullptr;
+}
+
+const std::vector<Finding>& ImageSupportDataNITFFactory::GetFindings() noexcept
+{
+    return Messages().findings;
 }
 
 const char* ImageSupportDataNITFFactory::GetErrorMessage() noexcept

@@ -2,12 +2,13 @@
 
 #include "../foundation/Export.h"
 #include "../nitf/NITFCnst.h"
+#include "ImageSupportDataNITF.h"
 
 #include <memory>
+#include <vector>
 
 namespace ORMO::SensorModel::CSM {
 
-class ImageSupportDataNITF;
 class WrapperCSMISD;
 
 /// Makes the image support data of NITF and NSIF files; never instantiated. A companion library comes first. Hosts use
@@ -33,6 +34,8 @@ public:
     /// Whether the file is of a version that can be read; aFormatName is then "NITF", else null. Never throws.
     static bool IsSupportedISDFile(const char* aPath, const char*& aFormatName) noexcept;
 
+    /// What this thread's last call of Create found wrong with a file that it refused; empty when there was nothing.
+    static const std::vector<Finding>& GetFindings() noexcept;
     /// Texts of this thread's last call of Create or Destroy, null when there is nothing to say.
     static const char* GetErrorMessage() noexcept;
     static const char* GetWarningMessage() noexcept;
@@ -40,8 +43,11 @@ public:
 private:
     ImageSupportDataNITFFactory();
 
-    static std::unique_ptr<ImageSupportDataNITF> Construct(const char* aPath, bool aImageSegmentsOnly, bool aFlag2,
-                                                           int aImageSegment, NITFCnst::Version aVersion);
+    friend class ImageSupportDataFactory;
+
+    /// The same for a file that is open, or a block of memory.
+    static bool Create(ImageSupportDataNITF::Request& aRequest, ImageSupportDataNITF** aOut);
+    static std::unique_ptr<ImageSupportDataNITF> Construct(ImageSupportDataNITF::Request& aRequest);
 };
 
 }  // namespace ORMO::SensorModel::CSM

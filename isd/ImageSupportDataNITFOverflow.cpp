@@ -2,137 +2,128 @@
 
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "isd/ImageSupportDataNITF.h"
+#include "isd/detail/IsdParts.h"
+#include "segments/detail/SegmentLayout.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
-namespace ORMO::SensorModel::CSM {
+namespace ORMO::SensorModel::CSM::Detail {
 
 namespace {
 
-/// An extension area and the field in its header that names the DES with the rest of it.
-struct AreaField
-{
-    std::string_view area;
-    std::string_view field;
-    std::string_view fieldIn20;
-};
-
-constexpr std::array<AreaField, 7> AREA_FIELDS{{{"UDHD", "UDHOFL", "UDHOFL"},
-                                                {"XHD", "XHDLOFL", "XHDOFL"},
-                                                {"UDID", "UDOFL", "UDOFL"},
-                                                {"IXSHD", "IXSOFL", "IXSOFL"},
-                                                {"SXSHD", "SXSOFL", "SXSOFL"},
-                                                {"LXSHD", "LXSOFL", "LXSOFL"},
-                                                {"TXSHD", "TXSOFL", "TXSOFL"}}};
+using Parts = ImageSupportDataNITF::Parts;
 
 std::string Target(NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::string_view aArea)
 {
-    std::string text = NITFStdDataSegment::GetDataSegmentName(aKind);
+    return SegmentName(aKind, aIndex) + " area " + std::string(aArea);
+}
+
+void Warn(FindingList& aFindings, NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::string_view aArea,
+          const std::string& aText)
+{
+    Finding finding = MakeFinding("WARN: " + aText);
+    finding.segment = NITFStdDataSegment::GetDataSegmentName(aKind);
     if (aKind != NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER) {
-        text += ' ' + std::to_string(aIndex);
+        finding.index = static_cast<int>(aIndex);
     }
-    return text + " area " + std::string(aArea);
+    finding.area = aArea;
+    aFindings.Add(std::move(finding));
 }
 
-}  // namespace
-
-void ImageSupportDataNITF::SetDataSegmentsOverflowTREs()
+void PlaceTREs(Parts& aParts, std::size_t aDes, std::vector<std::string>& aTargets, FindingList& aFindings)
 {
-    std::vector<std::string> targets;  // by DES, to tell two DESs for one target
-    for (std::size_t des = 0; des != m_des.size(); ++des) {
-        PlaceOverflowTREs(des, targets);
-    }
-    CheckOverflowNumbers();
-}
-
-void ImageSupportDataNITF::PlaceOverflowTREs(std::size_t aDes, std::vector<std::string>& aTargets)
-{
-    const NITFDESSubheader& des = *m_des[aDes];
+    NITFDESSubheader* const des = aParts.Des(aDes);
     NITFCnst::DataSegmentType kind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
     long index = 0;
     std::string area;
-    if (!des.IsTREOverflow() || !des.GetOverflowTarget(kind, index, area)) {
+    if (des == nullptr || !des->IsTREOverflow() || !des->GetOverflowTarget(kind, index, area)) {
         return;
     }
     const auto place = static_cast<std::size_t>(index);
     const std::string target = Target(kind, place, area);
     const std::string name = "DES " + std::to_string(aDes + 1);
-    const NITFStdDataSegmentInfos::Infos* const infos = m_infos.Get(kind);
-    const bool exists =
-        kind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER ? place == 0 : infos != nullptr && place < infos->size();
+    const auto warn = [&](const std::string& aText) {
+        Warn(aFindings, NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aDes, area, aText);
+    };
+    const bool exists = kind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER ? place == 0 : place < aParts.Count(kind);
     if (!exists) {
-        AddWarning("WARN: Overflow " + name + " names " + target +
-                   ", which is not in the file; its TREs stay on the DES.");
+        warn("Overflow " + name + " names " + target + ", which is not in the file; its TREs stay on the DES.");
         return;
     }
-    NITFFieldSegment* const owner = Segment(kind, place);
+    NITFFieldSegment* const owner = aParts.Segment(kind, place);
     if (owner == nullptr) {
-        return;  // a kind whose subheaders are not read: the TREs stay on the DES
+        return;  // left out or not to be read: the TREs stay on the DES
     }
     if (std::find(aTargets.begin(), aTargets.end(), target) != aTargets.end()) {
-        AddWarning("WARN: Overflow " + name + " is a further one for " + target + "; both are placed in file order.");
+        warn("Overflow " + name + " is a further one for " + target + "; both are placed in file order.");
     }
     aTargets.push_back(target);
-    m_placed.resize(m_des.size());
-    m_placed[aDes] = true;
-    for (const TRE* const tre : des.GetOverflowTREs().InOrder()) {
-        if (!owner->AddOverflowTRE(tre)) {
-            AddWarning("WARN: TRE " + Detail::Quoted(tre->GetTag()) + " of overflow " + name +
-                       " could not be placed at " + target + ".");
+    des->PlaceOverflowTREs(*owner);
+    for (const ExtensionArea& one : owner->Inside().layout->kind->areas) {
+        const std::string_view text = owner->FieldText(one.overflow);
+        std::uint64_t number = 0;
+        if (area == one.area && (!ToCount(text, number) || number != aDes + 1)) {
+            warn("Overflow " + name + " names " + target + ", whose " + one.overflow +
+                 (text.data() == nullptr ? " does not stand" : " is " + Shown(text)) + "; the DES decides.");
         }
     }
-    const auto* const field = std::find_if(AREA_FIELDS.begin(), AREA_FIELDS.end(),
-                                           [&](const AreaField& aField) { return aField.area == area; });
-    if (field == AREA_FIELDS.end()) {
+}
+
+/// What the overflow numbers of a segment say of DESs that say something else.
+void CheckNumbers(const Parts& aParts, NITFCnst::DataSegmentType aKind, std::size_t aIndex, FindingList& aFindings)
+{
+    const NITFFieldSegment* const segment = aParts.Segment(aKind, aIndex);
+    if (segment == nullptr) {
         return;
     }
-    const std::string_view tag = m_version == NITFCnst::NITF_VERSION_NUMBER_20 ? field->fieldIn20 : field->field;
-    const std::string_view text = owner->FieldText(tag);
-    std::uint64_t number = 0;
-    if (!Detail::ToCount(text, number) || number != aDes + 1) {
-        AddWarning("WARN: Overflow " + name + " names " + target + ", whose " + std::string(tag) +
-                   (text.data() == nullptr ? " does not stand" : " is " + Detail::Shown(text)) + "; the DES decides.");
+    for (const ExtensionArea& area : segment->Inside().layout->kind->areas) {
+        const std::string_view text = segment->FieldText(area.overflow);
+        std::uint64_t number = 0;
+        if (text.data() == nullptr || (ToCount(text, number) && number == 0)) {
+            continue;
+        }
+        const auto warn = [&](const std::string& aText) {
+            Warn(aFindings, aKind, aIndex, area.area,
+                 Target(aKind, aIndex, area.area) + ": " + area.overflow + ' ' + Shown(text) + aText);
+        };
+        const std::size_t count = aParts.Count(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION);
+        if (number == 0 || number > count) {
+            warn(" names no DES of the file, which has " + std::to_string(count) + ".");
+            continue;
+        }
+        const NITFDESSubheader* const des = aParts.Des(static_cast<std::size_t>(number) - 1);
+        NITFCnst::DataSegmentType kind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+        long index = 0;
+        std::string other;
+        if (des != nullptr && !des->IsTREOverflow()) {
+            warn(" names a DES that is no overflow DES.");
+        } else if (des != nullptr && des->GetOverflowTarget(kind, index, other) &&
+                   (kind != aKind || static_cast<std::size_t>(index) != aIndex || other != area.area)) {
+            warn(" names an overflow DES that belongs to " + Target(kind, static_cast<std::size_t>(index), other) +
+                 "; the DES decides.");
+        }
     }
 }
 
-void ImageSupportDataNITF::CheckOverflowNumbers()
+}  // namespace
+
+std::string SegmentName(NITFCnst::DataSegmentType aKind, std::size_t aIndex)
 {
-    const auto check = [this](NITFCnst::DataSegmentType aKind, std::size_t aIndex) {
-        const NITFFieldSegment* const segment = Segment(aKind, aIndex);
-        if (segment == nullptr) {
-            return;
-        }
-        for (const AreaField& field : AREA_FIELDS) {
-            const std::string_view tag = m_version == NITFCnst::NITF_VERSION_NUMBER_20 ? field.fieldIn20 : field.field;
-            const std::string_view text = segment->FieldText(tag);
-            std::uint64_t number = 0;
-            if (text.data() == nullptr || (Detail::ToCount(text, number) && number == 0)) {
-                continue;
-            }
-            const std::string where =
-                Target(aKind, aIndex, field.area) + ": " + std::string(tag) + " " + Detail::Shown(text);
-            NITFCnst::DataSegmentType kind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
-            long index = 0;
-            std::string area;
-            if (number == 0 || number > m_des.size()) {
-                AddWarning("WARN: " + where + " names no DES of the file, which has " + std::to_string(m_des.size()) +
-                           ".");
-            } else if (!m_des[static_cast<std::size_t>(number) - 1]->IsTREOverflow()) {
-                AddWarning("WARN: " + where + " names a DES that is no overflow DES.");
-            } else if (m_des[static_cast<std::size_t>(number) - 1]->GetOverflowTarget(kind, index, area) &&
-                       (kind != aKind || static_cast<std::size_t>(index) != aIndex || area != field.area)) {
-                AddWarning("WARN: " + where + " names an overflow DES that belongs to " +
-                           Target(kind, static_cast<std::size_t>(index), area) + "; the DES decides.");
-            }
-        }
-    };
-    check(NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, 0);
-    for (const NITFStdDataSegmentInfo* const info : m_infos.InFileOrder()) {
-        check(info->GetDataSegmentType(), static_cast<std::size_t>(info->GetSegmentIndex()));
+    const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);
+    return aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER ? name : name + ' ' + std::to_string(aIndex);
+}
+
+void PlaceOverflow(Parts& aParts, FindingList& aFindings)
+{
+    std::vector<std::string> targets;  // by DES, to tell two DESs for one target
+    for (std::size_t des = 0; des != aParts.Count(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION); ++des) {
+        PlaceTREs(aParts, des, targets, aFindings);
+    }
+    CheckNumbers(aParts, NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, 0, aFindings);
+    for (const NITFStdDataSegmentInfo* const info : aParts.infos.InFileOrder()) {
+        CheckNumbers(aParts, info->GetDataSegmentType(), static_cast<std::size_t>(info->GetSegmentIndex()), aFindings);
     }
 }
 
-}  // namespace ORMO::SensorModel::CSM
+}  // namespace ORMO::SensorModel::CSM::Detail

@@ -4,7 +4,7 @@
 #include "isd/ImageSupportDataNITF.h"
 #include "isd/OrmoTSMISD.h"
 #include "isd/detail/CsmRecords.h"
-#include "isd/detail/TsmViews.h"
+#include "isd/detail/IsdParts.h"
 
 #include <exception>
 #include <memory>
@@ -176,7 +176,7 @@ bool ImageSupportDataNITF::GetAllTsmISDs(const tsm_ISD**& aTsmISDs, std::size_t&
     aTsmISDs = nullptr;
     aCount = 0;
     try {
-        const Detail::TsmForms& forms = m_tsmViews->forms.Get([this] { return MakeForms(*this); });
+        const Detail::TsmForms& forms = m_parts->tsm.forms.Get([this] { return MakeForms(*this); });
         // The array is not to be changed, although its type says nothing of that.
         aTsmISDs = const_cast<const tsm_ISD**>(forms.array.data());
         aCount = forms.array.size();
@@ -188,7 +188,7 @@ bool ImageSupportDataNITF::GetAllTsmISDs(const tsm_ISD**& aTsmISDs, std::size_t&
 
 void ImageSupportDataNITF::ClearTSMISDData() noexcept
 {
-    m_tsmViews->forms.Reset();
+    m_parts->tsm.forms.Reset();
 }
 
 bool ImageSupportDataNITF::SetTSMISD(int aImageSegment, tsm_ISD* aTsmISD) const
@@ -200,7 +200,7 @@ bool ImageSupportDataNITF::SetTSMISD(int aImageSegment, tsm_ISD* aTsmISD) const
         const std::string path = GetFileName() == nullptr ? "" : GetFileName();
         if (auto* const bytes = dynamic_cast<bytestreamISD*>(aTsmISD); bytes != nullptr) {
             std::string read;
-            if (path.empty() || !m_source->Read(0, m_source->Size(), read)) {
+            if (path.empty() || !m_parts->source->Read(0, m_parts->source->Size(), read)) {
                 return false;
             }
             bytes->_isd.swap(read);

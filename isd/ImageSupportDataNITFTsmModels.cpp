@@ -5,7 +5,7 @@
 #include "isd/detail/CsmCall.h"
 #include "isd/detail/CsmRecords.h"
 #include "isd/detail/RegisteredPlugins.h"
-#include "isd/detail/TsmViews.h"
+#include "isd/detail/IsdParts.h"
 
 #include <algorithm>
 #include <exception>
@@ -114,7 +114,7 @@ bool ImageSupportDataNITF::GetSensorModelsOfImageSegment(const char**& aNames, c
                          return false;
                      });
         if (!found.names.empty()) {
-            const Detail::ModelTexts& texts = Kept(*m_tsmViews, std::move(found));
+            const Detail::ModelTexts& texts = Kept(m_parts->tsm, std::move(found));
             aNames = const_cast<const char**>(texts.nameTexts.data());
             aVersions = const_cast<const char**>(texts.versionTexts.data());
             aCount = texts.nameTexts.size();

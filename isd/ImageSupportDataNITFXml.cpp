@@ -2,9 +2,9 @@
 
 #include "fields/Xml.h"
 #include "foundation/CSMCnst.h"
-#include "isd/ImageSupportDataNITF.h"
+#include "isd/detail/IsdParts.h"
+#include "segments/detail/SegmentLayout.h"
 
-#include <exception>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM {
@@ -37,75 +37,93 @@ void CloseDocument(std::string& aXml, std::string_view aRoot)
     aXml += ">\n";
 }
 
-void AppendSummary(std::string& aXml, std::string_view aKind, std::string_view aText)
+/// A summary of what was found in one segment at one level: its name and a line for each finding.
+void AppendSummary(std::string& aXml, std::string_view aLevel, std::string_view aName,
+                   const std::vector<std::string>& aLines)
 {
+    if (aLines.empty()) {
+        return;
+    }
     aXml += "  <Summary";
-    Detail::AppendXmlAttribute("type", aKind, aXml);
+    Detail::AppendXmlAttribute("type", aLevel, aXml);
     aXml += ">\n";
-    std::string_view rest = aText;
-    while (!rest.empty()) {
-        const auto end = rest.find('\n');
-        const std::string_view line = rest.substr(0, end);
-        if (!line.empty()) {
-            aXml += "      ";
-            Detail::AppendXmlText(line, aXml);
-            aXml += '\n';
-        }
-        rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
+    if (!aName.empty()) {
+        aXml += "      ";
+        Detail::AppendXmlText(aName, aXml);
+        aXml += '\n';
+    }
+    for (const std::string& line : aLines) {
+        aXml += "      ";
+        Detail::AppendXmlText(line, aXml);
+        aXml += '\n';
     }
     aXml += "    </Summary>\n";
 }
 
-/// Adds each line of a text behind the name of its segment.
-void AppendLines(const std::string& aName, std::string_view aText, std::vector<std::string>& aLines)
+/// The summaries of all findings of a level; those of one segment follow each other.
+void AppendSummaries(std::string& aXml, const Detail::FindingList& aFindings, bool aErrors)
 {
-    while (!aText.empty()) {
-        const auto end = aText.find('\n');
-        if (end != 0) {
-            aLines.push_back((aName.empty() ? "" : aName + ": ") + std::string(aText.substr(0, end)));
+    const char* const level = aErrors ? "ERROR" : "WARN";
+    std::string name;
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i != aFindings.KeptCount(); ++i) {
+        const Finding& finding = aFindings.Kept(i);
+        if ((finding.level != Finding::Level::Warning) != aErrors) {
+            continue;
         }
-        aText = end == std::string_view::npos ? std::string_view{} : aText.substr(end + 1);
+        std::string segment = finding.segment;
+        segment += finding.index == Finding::NO_INDEX ? "" : ' ' + std::to_string(finding.index);
+        if (segment != name) {
+            AppendSummary(aXml, level, name, lines);
+            lines.clear();
+            name = std::move(segment);
+        }
+        lines.push_back(finding.Line());
     }
+    if (!aErrors && aFindings.LeftOut() != 0) {
+        lines.push_back(aFindings.LeftOutLine());
+    }
+    AppendSummary(aXml, level, name, lines);
+}
+
+/// The group of all segments of a kind that were read; nothing when there are none.
+void AppendSegments(std::string& aXml, const Detail::SegmentKind& aKind, const ImageSupportDataNITF::Parts& aParts)
+{
+    std::string group;
+    std::size_t total = 0;
+    for (std::size_t i = 0; i != aParts.Count(aKind.kind); ++i) {
+        NITFFieldSegment* const segment = aParts.Segment(aKind.kind, i);
+        if (segment != nullptr) {
+            ++total;
+            group += segment->SerializeDataSegment("    ");
+        }
+    }
+    if (total == 0) {
+        return;
+    }
+    aXml += std::string("  <") + aKind.group + " total=\"" + std::to_string(total) + "\">\n";
+    aXml += group;
+    aXml += std::string("  </") + aKind.group + ">\n";
 }
 
 }  // namespace
-
-template<typename Subheader>
-void ImageSupportDataNITF::AppendSegments(std::string& aXml, const char* aGroup,
-                                          const std::vector<std::unique_ptr<Subheader>>& aSegments) const
-{
-    if (aSegments.empty()) {
-        return;
-    }
-    aXml += "  <";
-    aXml += aGroup;
-    aXml += " total=\"" + std::to_string(aSegments.size()) + "\">\n";
-    for (const auto& segment : aSegments) {
-        const char* const text = segment->SerializeDataSegment("    ");
-        if (text != nullptr) {
-            aXml += text;
-        }
-    }
-    aXml += "  </";
-    aXml += aGroup;
-    aXml += ">\n";
-}
 
 const char* ImageSupportDataNITF::Serialize()
 {
     if (!m_keptText.empty()) {
         return m_keptText.c_str();
     }
-    if (m_header == nullptr) {
+    if (m_parts->header == nullptr) {
         return nullptr;
     }
     std::string xml;
     OpenDocument(xml, NITFCnst::XML_ELEMENT_NITF, NITFCnst::XML_SCHEMA_FILE_ISD, GetFormatVersion());
-    xml += m_header->SerializeDataSegment("  ");
-    AppendSegments(xml, NITFCnst::XML_ELEMENT_IMAGE_SEGMENTS, m_images);
-    AppendSegments(xml, NITFCnst::XML_ELEMENT_TEXT_SEGMENTS, m_texts);
-    AppendSegments(xml, NITFCnst::XML_ELEMENT_DATA_EXTENSION_SEGMENTS, m_des);
-    AppendSegments(xml, NITFCnst::XML_ELEMENT_RESERVED_EXTENSION_SEGMENTS, m_res);
+    xml += m_parts->header->SerializeDataSegment("  ");
+    for (const Detail::SegmentKind& kind : Detail::SEGMENT_KINDS) {
+        if (kind.version == m_parts->Version() && kind.mark[0] != '\0') {
+            AppendSegments(xml, kind, *m_parts);
+        }
+    }
     CloseDocument(xml, NITFCnst::XML_ELEMENT_NITF);
     m_keptText = std::move(xml);
     return m_keptText.c_str();
@@ -114,47 +132,23 @@ const char* ImageSupportDataNITF::Serialize()
 bool ImageSupportDataNITF::RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings)
 {
     if (!m_rigorouslyValidated || m_validationSummaryReport.empty()) {
-        m_validationErrorCount = 0;
-        m_validationWarningCount = 0;
-        m_validationLines.clear();
-        std::vector<std::string> warningLines;
-        std::string errors;
-        std::string warnings;
-        const auto validate = [&](NITFFieldSegment* aSegment, const std::string& aName) {
-            unsigned long errorCount = 0;
-            unsigned long warningCount = 0;
-            if (aSegment == nullptr) {
-                return;
+        Detail::FindingList& findings = m_parts->validation;
+        findings.Clear();
+        Detail::CheckSegment(*m_parts->header, findings);
+        for (const std::unique_ptr<NITFFieldSegment>& segment : m_parts->segments) {
+            if (segment != nullptr) {
+                Detail::CheckSegment(*segment, findings);
             }
-            aSegment->RigorousValidation(errorCount, warningCount);
-            m_validationErrorCount += errorCount;
-            m_validationWarningCount += warningCount;
-            if (errorCount != 0) {
-                AppendSummary(errors, "ERROR", aName + "\n" + aSegment->GetErrorMessage());
-                AppendLines(aName, aSegment->GetErrorMessage(), m_validationLines);
-            }
-            if (warningCount != 0) {
-                AppendSummary(warnings, "WARN", aName + "\n" + aSegment->GetWarningMessage());
-                AppendLines(aName, aSegment->GetWarningMessage(), warningLines);
-            }
-        };
+        }
+        findings.Add(m_parts->findings);
         std::string report;
         OpenDocument(report, NITFCnst::XML_ELEMENT_NITF_VALIDATION_SUMMARY,
                      NITFCnst::XML_SCHEMA_FILE_VALIDATION_SUMMARY, "1.0");
-        validate(m_header.get(), NITFCnst::XML_ELEMENT_NITF_FILE_HEADER);
-        for (const NITFStdDataSegmentInfo* const info : m_infos.InFileOrder()) {
-            validate(Segment(info->GetDataSegmentType(), static_cast<std::size_t>(info->GetSegmentIndex())),
-                     std::string(NITFStdDataSegment::GetDataSegmentName(info->GetDataSegmentType())) + ' ' +
-                         std::to_string(info->GetSegmentIndex()));
-        }
-        for (const std::string& warning : m_warnings) {
-            ++m_validationWarningCount;
-            AppendSummary(warnings, "WARN", warning);
-            AppendLines("", warning, warningLines);
-        }
-        m_validationLines.insert(m_validationLines.end(), warningLines.begin(), warningLines.end());
-        report += errors + warnings;
+        AppendSummaries(report, findings, true);
+        AppendSummaries(report, findings, false);
         CloseDocument(report, NITFCnst::XML_ELEMENT_NITF_VALIDATION_SUMMARY);
+        m_validationErrorCount = findings.Errors();
+        m_validationWarningCount = findings.Warnings();
         m_validationSummaryReport = std::move(report);
         m_rigorouslyValidated = true;
     }

@@ -1,15 +1,12 @@
 #include "segments/NITFDataSegment.h"
 
-#include "fields/ByteSource.h"
 #include "fields/MessageText.h"
 #include "fields/Xml.h"
 #include "foundation/CSMExceptions.h"
-#include "segments/RawNITFMetadataStdDataSegment.h"
-#include "segments/detail/SegmentContents.h"
+#include "foundation/CSMUtilString.h"
 #include "segments/detail/SegmentData.h"
-#include "segments/detail/SegmentWords.h"
+#include "segments/detail/SegmentLayout.h"
 
-#include <string_view>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
@@ -17,15 +14,53 @@ namespace ORMO::SensorModel::CSM {
 namespace {
 
 constexpr int MOST_SEGMENT_NUMBER = 999;
-constexpr long LEAST_BYTES = 2;
-constexpr long MOST_BYTES = 999999;
+constexpr std::size_t LEAST_BYTES = 2;
+constexpr std::size_t MOST_BYTES = 999999;
+
+/// The input of a subheader when its number and length are possible; raises else.
+NITFFieldSegment::Input& Checked(const NITFFieldSegment::Layout& aLayout, NITFFieldSegment::Input& aInput)
+{
+    const Detail::SegmentWords& words = *aLayout.words;
+    const int number = aInput.info.GetSegmentIndex();
+    const NITFCnst::Version version = aInput.info.GetNITFVersion();
+    const bool readable = version == NITFCnst::NITF_VERSION_NUMBER_20 || version == NITFCnst::NITF_VERSION_NUMBER_21 ||
+                          version == NITFCnst::NSIF_VERSION_NUMBER_10;
+    const char* source = words.reader;
+    std::string text;
+    if (number < 0 || number > MOST_SEGMENT_NUMBER) {
+        text = words.numberFault;
+        source = words.numberReader == nullptr ? source : words.numberReader;
+    } else if (!readable || number > words.mostNumber || aInput.raw.size() < LEAST_BYTES ||
+               aInput.raw.size() > MOST_BYTES || aInput.raw[0] == '\0' || aInput.raw[1] == '\0') {
+        text = std::string("ERROR: Failed to clone the raw ") + words.kindWord +
+               " subheader (index number = " + std::to_string(number) + ") from the input " + words.kindWord +
+               " data stream.";
+    }
+    if (!text.empty()) {
+        const Detail::FindingMark mark = aInput.Findings().Now();
+        aInput.Findings().Add(Detail::MakeFinding(text), text);
+        aInput.Findings().PlaceAt(mark, aLayout.Owner(), number);
+        throw ImageSupportDataConstructionException(text.c_str(), source);
+    }
+    return aInput;
+}
 
 }  // namespace
 
-NITFDataSegment::NITFDataSegment(const char* aVersionText, NITFCnst::DataSegmentType aKind,
-                                 const Detail::FieldTable& aTable)
-    : NITFFieldSegment(aVersionText, aKind, aTable), m_data(std::make_shared<Detail::SegmentData>(nullptr, 0, 0))
+struct NITFDataSegment::Data : Detail::SegmentData
 {
+    using SegmentData::SegmentData;
+};
+
+NITFDataSegment::NITFDataSegment(const Layout& aLayout, Input& aInput)
+    : NITFFieldSegment(aLayout, Checked(aLayout, aInput)),
+      m_number(aInput.info.GetSegmentIndex()),
+      m_data(std::make_shared<Data>(aInput.source, aInput.info.GetSegmentDataStart(), aInput.info.GetSegmentDataSize()))
+{
+    ReadTREs(aInput);
+    NITFFieldSegment::SetDisplayLevel();
+    NITFFieldSegment::SetAttachmentLevel();
+    FinishReading(aInput);
 }
 
 NITFDataSegment::NITFDataSegment(const NITFDataSegment& aOther)
@@ -41,14 +76,10 @@ bool NITFDataSegment::operator==(const NITFStdDataSegment& aOther) const
     if (other == nullptr || !NITFFieldSegment::operator==(aOther)) {
         return false;
     }
-    if (m_data == other->m_data) {
+    if (m_data == other->m_data || m_data->IsSamePlace(*other->m_data)) {
         return true;
     }
-    // Data that cannot be had equal nothing but themselves.
-    std::string mine;
-    std::string others;
-    return m_data->Size() == other->m_data->Size() && m_data->Read(mine) && other->m_data->Read(others) &&
-           mine == others;
+    return m_data->Size() == other->m_data->Size() && m_data->Equals(*other->m_data);
 }
 
 bool NITFDataSegment::CloneObj(const NITFStdDataSegment& aOther)
@@ -59,7 +90,6 @@ bool NITFDataSegment::CloneObj(const NITFStdDataSegment& aOther)
     }
     m_number = other->m_number;
     m_data = other->m_data;
-    m_metadata.reset();
     return true;
 }
 
@@ -72,7 +102,6 @@ void NITFDataSegment::Swap(NITFStdDataSegment& aOther) noexcept
     NITFFieldSegment::Swap(aOther);
     std::swap(m_number, other->m_number);
     std::swap(m_data, other->m_data);
-    std::swap(m_metadata, other->m_metadata);
 }
 
 std::string NITFDataSegment::DataFaultText() const
@@ -80,44 +109,36 @@ std::string NITFDataSegment::DataFaultText() const
     return {};
 }
 
+void NITFDataSegment::AppendDataElements(std::string&) const {}
+
 std::string_view NITFDataSegment::FieldLeftOut() const noexcept
 {
     return {};
 }
 
-void NITFDataSegment::ReadSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                    std::shared_ptr<const Detail::ByteSource> aSource, const char* aFamily,
-                                    const char* aReader)
-{
-    const std::string word = KindWord();
-    const int number = aInfo.GetSegmentIndex();
-    if (number < 0 || number > MOST_SEGMENT_NUMBER) {
-        throw ImageSupportDataConstructionException(
-            ("ERROR: Input " + word + " segment number out of valid range.").c_str(), aFamily);
-    }
-    if (aRaw == nullptr || aLength < LEAST_BYTES || aLength > MOST_BYTES) {
-        throw ImageSupportDataConstructionException(
-            ("ERROR: Failed to clone the raw " + word + " subheader (index number = " + std::to_string(number) +
-             ") from the input " + word + " data stream.")
-                .c_str(),
-            aFamily);
-    }
-    m_number = number;
-    SetNITFStdDataSegmentInfo(aInfo);
-    m_data = std::make_shared<Detail::SegmentData>(std::move(aSource), aInfo.GetSegmentDataStart(),
-                                                   aInfo.GetSegmentDataSize());
-    std::string errors;
-    std::uint64_t consumed = 0;
-    if (!ReadFields(std::string(aRaw, static_cast<std::size_t>(aLength)), aInfo.GetSegmentHeaderStart(), consumed,
-                    errors)) {
-        throw ImageSupportDataConstructionException(errors.c_str(), aReader);
-    }
-    AddSurplusWarning(consumed);
-}
-
 bool NITFDataSegment::IsDataAvailable() const noexcept
 {
     return m_data->IsAvailable();
+}
+
+bool NITFDataSegment::HasDataSource() const noexcept
+{
+    return m_data->HasSource();
+}
+
+bool NITFDataSegment::ReadData(std::string& aOut) const
+{
+    return m_data->Read(aOut);
+}
+
+bool NITFDataSegment::ReadDataFront(std::size_t aMost, std::string& aOut) const
+{
+    return m_data->ReadFront(aMost, aOut);
+}
+
+std::string NITFDataSegment::DataFault() const
+{
+    return m_data->Fault();
 }
 
 bool NITFDataSegment::GetData(const char*& aData, std::size_t& aLength, std::string* aErrors) const
@@ -128,33 +149,11 @@ bool NITFDataSegment::GetData(const char*& aData, std::size_t& aLength, std::str
     if (bytes == nullptr && aErrors != nullptr) {
         const std::string fault = m_data->Fault();
         Detail::AppendBlock(*aErrors, DataFaultText());
-        Detail::AppendBlock(*aErrors,
-                            "ERROR: The data of " + std::string(Words().owner) + ' ' + std::to_string(m_number) +
-                                " are not available: " + (fault.empty() ? "the file cannot be read" : fault) + ".");
+        Detail::AppendBlock(
+            *aErrors, "ERROR: The data of " + std::string(Inside().layout->Owner()) + ' ' + std::to_string(m_number) +
+                          " are not available: " + (fault.empty() ? "the file cannot be read" : fault) + ".");
     }
     return bytes != nullptr;
-}
-
-bool NITFDataSegment::WriteData(std::FILE* aOut, std::string* aErrors) const
-{
-    const bool written = aOut != nullptr && m_data->ForEachPiece([aOut](std::string_view aPiece) {
-        return std::fwrite(aPiece.data(), 1, aPiece.size(), aOut) == aPiece.size();
-    });
-    if (!written && aErrors != nullptr) {
-        const std::string fault = m_data->Fault();
-        Detail::AppendBlock(*aErrors,
-                            "ERROR: The data of " + std::string(Words().owner) + ' ' + std::to_string(m_number) +
-                                " cannot be written: " + (fault.empty() ? "reading or writing failed" : fault) + ".");
-    }
-    return written;
-}
-
-const RawNITFMetadata* NITFDataSegment::GetAllSegmentMetadata() const
-{
-    if (m_metadata == nullptr) {
-        m_metadata = MakeRawMetadata();
-    }
-    return m_metadata.get();
 }
 
 void NITFDataSegment::AppendDataElement(const char* aElement, std::string& aXml) const
@@ -165,7 +164,7 @@ void NITFDataSegment::AppendDataElement(const char* aElement, std::string& aXml)
         text = text && Detail::IsXmlText(aPiece);
         return true;
     });
-    aXml += Words().indent;
+    aXml += Inside().layout->words->indent;
     aXml += '<';
     aXml += aElement;
     Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_BASE64_ENCODED, text ? "F" : "T", aXml);
@@ -189,18 +188,35 @@ void NITFDataSegment::AppendDataElement(const char* aElement, std::string& aXml)
     aXml += ">\n";
 }
 
+std::string NITFDataSegment::Xml(const std::string& aIndent, int aIndex) const
+{
+    const char* const element = Inside().layout->Owner();
+    std::string xml = aIndent + "<" + element;
+    Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_INDEX, std::to_string(aIndex), xml);
+    xml += ">\n";
+    AppendFieldElements(xml, FieldLeftOut());
+    AppendDataElements(xml);
+    AppendTREElements(xml);
+    xml += aIndent + "</" + element + ">\n";
+    return xml;
+}
+
 const char* NITFDataSegment::SerializeDataSegment(const char* aIndent)
 {
-    const std::string indent = aIndent == nullptr ? "" : aIndent;
-    const char* const element = Words().owner;
-    m_xml = indent + "<" + element;
-    Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_INDEX, std::to_string(m_number), m_xml);
-    m_xml += ">\n";
-    AppendFieldElements(m_xml, FieldLeftOut());
-    AppendDataElements(m_xml);
-    AppendTREElements(m_xml);
-    m_xml += indent + "</" + element + ">\n";
+    m_xml = Xml(aIndent == nullptr ? "" : aIndent, m_number);
     return m_xml.c_str();
+}
+
+bool NITFDataSegment::Serialize(char** aXml, int aIndex, std::size_t* aLength) const
+{
+    if (aXml == nullptr) {
+        return false;
+    }
+    const std::string xml = Xml("", aIndex);
+    if (aLength != nullptr) {
+        *aLength = xml.size();
+    }
+    return Util::CSMUtilString::Copy(xml.c_str(), aXml);
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -3,21 +3,13 @@
 #include "NITFFieldSegment.h"
 
 #include <cstddef>
-#include <cstdio>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
-class RawNITFMetadata;
-class RawNITFMetadataStdDataSegment;
-
-namespace Detail {
-class ByteSource;
-class SegmentData;
-}  // namespace Detail
-
-/// What the text, DES and RES subheaders share: a subheader that is read when the object is made, and data behind it
+/// What all subheaders share: a subheader that is read when the object is made, and data behind it
 /// that stay in the file until somebody asks for them.
 class ORMO_CSM_API NITFDataSegment : public NITFFieldSegment
 {
@@ -28,17 +20,19 @@ public:
     int GetSegmentNumber() const noexcept { return m_number; }
     /// Whether the file holds all of the data.
     bool IsDataAvailable() const noexcept;
-    /// Writes the data to a stream in pieces, whatever their size. False, with a text appended to `aErrors` when that
-    /// is given, when the data are not all in the file or writing fails.
-    bool WriteData(std::FILE* aOut, std::string* aErrors = nullptr) const;
     /// The subheader as raw metadata, built on demand; owned by the subheader.
-    const RawNITFMetadata* GetAllSegmentMetadata() const;
+    const RawNITFMetadataStdDataSegment* GetAllSegmentMetadata() const { return GetAllMetadata(); }
 
     /// The element of the segment with its fields, its data and its TREs. Data that cannot be had are left out.
     const char* SerializeDataSegment(const char* aIndent) override;
+    /// A new text with that element; the caller frees it with CSMUtilString::DeleteCString. The length goes to
+    /// `aLength` when that is given.
+    bool Serialize(char** aXml, int aIndex, std::size_t* aLength) const;
 
 protected:
-    NITFDataSegment(const char* aVersionText, NITFCnst::DataSegmentType aKind, const Detail::FieldTable& aTable);
+    /// Reads the fields and the extension areas of a subheader and learns where its data are. Raises
+    /// ImageSupportDataConstructionException with all that was wrong.
+    NITFDataSegment(const Layout& aLayout, Input& aInput);
     NITFDataSegment(const NITFDataSegment& aOther);
 
     using NITFFieldSegment::operator=;
@@ -46,31 +40,34 @@ protected:
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
 
-    /// The word for the kind in its messages: "text", "DES" or "RES".
-    virtual const char* KindWord() const noexcept = 0;
     /// What stands before the reason when the data cannot be had; empty for nothing.
     virtual std::string DataFaultText() const;
     /// The elements between the fields and the TREs.
-    virtual void AppendDataElements(std::string& aXml) const = 0;
+    virtual void AppendDataElements(std::string& aXml) const;
     /// The field whose element AppendDataElements writes in another form; empty for none.
     virtual std::string_view FieldLeftOut() const noexcept;
 
-    /// Reads the fields of a subheader that stands where `aInfo` says, and learns where its data are. Raises
-    /// ImageSupportDataConstructionException with all that was wrong: `aFamily` is its source when there is nothing to
-    /// read, `aReader` when a field cannot be read.
-    void ReadSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                       std::shared_ptr<const Detail::ByteSource> aSource, const char* aFamily, const char* aReader);
     /// All of the data, read when first asked for; they belong to the segment.
     bool GetData(const char*& aData, std::size_t& aLength, std::string* aErrors) const;
-    const Detail::SegmentData& Data() const noexcept { return *m_data; }
+    /// The data for a single use: not kept. False when they cannot be had.
+    bool ReadData(std::string& aOut) const;
+    /// The first of the data for a single use, no more than `aMost` bytes.
+    bool ReadDataFront(std::size_t aMost, std::string& aOut) const;
+    /// Why the data cannot be had; empty when they can.
+    std::string DataFault() const;
+    /// Whether there is a file to read the data from.
+    bool HasDataSource() const noexcept;
     /// An element with the data as text or, when XML cannot carry them, in base64.
     void AppendDataElement(const char* aElement, std::string& aXml) const;
 
 private:
+    struct Data;
+
+    std::string Xml(const std::string& aIndent, int aIndex) const;
+
     int m_number = -1;
-    std::shared_ptr<const Detail::SegmentData> m_data;  // copies of a segment look at the same data
+    std::shared_ptr<const Data> m_data;  // copies of a segment look at the same data
     std::string m_xml;
-    mutable std::unique_ptr<RawNITFMetadataStdDataSegment> m_metadata;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,20 +1,14 @@
 #include "segments/NITFFieldSegment.h"
 
-#include "fields/FieldValue.h"
-#include "fields/FieldWalk.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "fields/ValueRule.h"
 #include "foundation/CSMExceptions.h"
-#include "foundation/CSMMsg.h"
-#include "foundation/CSMUtilGeneric.h"
-#include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
-#include "segments/detail/SegmentContents.h"
-#include "segments/detail/SegmentWords.h"
+#include "segments/RawNITFMetadataStdDataSegment.h"
+#include "segments/detail/SegmentLayout.h"
 #include "tre/detail/TreArea.h"
 
-#include <limits>
+#include <type_traits>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
@@ -23,9 +17,11 @@ using Detail::FieldEntry;
 using Detail::FieldRow;
 using Detail::FieldTable;
 using Detail::Quoted;
-using Detail::SegmentContents;
 
 namespace {
+
+constexpr std::uint64_t MOST_DISPLAY_LEVEL = 999;
+constexpr std::uint64_t MOST_ATTACHMENT_LEVEL = 998;
 
 constexpr const char* NOT_INTEGRAL = " is not an integral type.";
 constexpr const char* NOT_POSITIVE_INTEGRAL = " doesn't exist or its data type is not a positive integral type.";
@@ -34,20 +30,104 @@ constexpr const char* NOT_CONVERTED =
     "ERROR: Internal system error. Failed to convert the requested field value from a string representation to an "
     "unsigned long.";
 
-constexpr auto HEADER_BYTE_ORDER = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN;
+/// What a read that stopped has to say: the text that the kind has for it, with field, value and place.
+void AddReadFault(const NITFFieldSegment::Parts& aParts, const Detail::WalkResult& aResult,
+                  Detail::FindingList& aFindings)
+{
+    const NITFFieldSegment::Layout& layout = *aParts.layout;
+    const Detail::SegmentWords& words = *layout.words;
+    Finding finding = Detail::MakeFinding(Finding::Level::Error, "", layout.Owner());
+    finding.offset = aParts.fileOffset;
+    if (layout.kind->mark[0] == '\0') {
+        finding.segment = layout.Owner();
+    }
+    aParts.record.Describe(aResult, finding);
+    const FieldRow& row = layout.table.Row(aResult.row);
+    const std::string tag = row.IsField() ? row.tag : finding.field;
+    if (aResult.fault == Detail::Fault::Short) {
+        const bool conditional = row.need == Detail::Need::Conditional || row.need == Detail::Need::ConditionalBlank;
+        const std::string walk = (conditional                        ? words.conditionalPrefix
+                                  : layout.requiredPrefix != nullptr ? layout.requiredPrefix
+                                                                     : words.requiredPrefix) +
+                                 Quoted(tag) + words.streamSuffix;
+        if (conditional && words.fieldPrefix != nullptr) {
+            finding.sentence = words.fieldPrefix + Quoted(tag) + " from the data stream.";
+            const std::string text = Detail::Block(finding) + "\n\n" + walk;
+            aFindings.Add(std::move(finding), text);
+            return;
+        }
+        finding.sentence = walk;
+    } else {
+        finding.sentence = words.invalidPrefix + Quoted(tag) + " is invalid.";
+    }
+    aFindings.Add(std::move(finding));
+}
 
 }  // namespace
 
-NITFFieldSegment::NITFFieldSegment(const char* aVersionText, NITFCnst::DataSegmentType aKind, const FieldTable& aTable)
-    : NITFStdDataSegment(aVersionText, aKind), m_contents(std::make_unique<SegmentContents>())
+Detail::AreaPlace NITFFieldSegment::Parts::PlaceOf(const Detail::ExtensionArea& aArea,
+                                                   const Detail::FieldEntry& aEntry) const noexcept
 {
-    m_contents->fields = Detail::FieldStore(aTable);
+    return {aArea.area, fileOffset + record.Store().Position(aEntry),
+            aArea.registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION};
+}
+
+std::uint64_t NITFFieldSegment::Parts::Number(std::string_view aName) const noexcept
+{
+    std::uint64_t number = 0;
+    return Detail::ToCount(record.Text(aName), number) ? number : 0;
+}
+
+Finding NITFFieldSegment::Parts::About(Finding::Level aLevel, std::string_view aSentence, std::string_view aField) const
+{
+    Finding finding = Detail::MakeFinding(aLevel, aSentence, layout->Owner(), aField);
+    if (layout->kind->mark[0] == '\0') {
+        finding.segment = layout->Owner();  // there is one of them, so no number is missing
+    }
+    const FieldEntry* const entry = record.Find(aField);
+    if (entry != nullptr) {
+        finding.value = record.Store().Value(*entry);
+        finding.offset = fileOffset + record.Store().Position(*entry);
+    }
+    return finding;
+}
+
+Finding NITFFieldSegment::Parts::About(std::string_view aSentence, std::string_view aField) const
+{
+    return About(Detail::MakeFinding(aSentence).level, aSentence, aField);
+}
+
+NITFFieldSegment::NITFFieldSegment(const Layout& aLayout, Input& aInput)
+    : NITFStdDataSegment(aInput.versionText, aLayout.kind->kind), m_parts(std::make_unique<Parts>())
+{
+    Detail::FindingList& findings = aInput.Findings();
+    aInput.mark = findings.Now();
+    SetNITFStdDataSegmentInfo(aInput.info);
+    m_parts->layout = &aLayout;
+    m_parts->raw = std::move(aInput.raw);
+    m_parts->fileOffset = aInput.info.GetSegmentHeaderStart();
+    m_parts->record = Detail::FieldRecord(aLayout.table);
+    const Detail::WalkResult result = m_parts->record.Read(m_parts->raw);
+    if (!result.IsGood()) {
+        AddReadFault(*m_parts, result, findings);
+        Refuse(aInput);
+    }
+    if (result.consumed < m_parts->raw.size() && aLayout.kind->kind != NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER) {
+        const std::string_view surplus =
+            std::string_view(m_parts->raw).substr(static_cast<std::size_t>(result.consumed));
+        const bool blank = surplus.find_first_not_of(' ') == std::string_view::npos;
+        Finding finding = Detail::MakeFinding(
+            "WARN: The fields of the subheader take " + std::to_string(result.consumed) +
+            " byte(s), the file header says " + std::to_string(m_parts->raw.size()) + "; the " +
+            std::to_string(surplus.size()) + " surplus " + (blank ? "blank(s) are" : "byte(s) are") + " left out.");
+        finding.offset = m_parts->fileOffset + result.consumed;
+        finding.value = surplus.substr(0, 64);
+        findings.Add(std::move(finding));
+    }
 }
 
 NITFFieldSegment::NITFFieldSegment(const NITFFieldSegment& aOther)
-    : NITFStdDataSegment(aOther),
-      m_contents(std::make_unique<SegmentContents>(*aOther.m_contents)),
-      m_fileOffset(aOther.m_fileOffset)
+    : NITFStdDataSegment(aOther), m_parts(std::make_unique<Parts>(*aOther.m_parts))
 {
 }
 
@@ -56,34 +136,32 @@ NITFFieldSegment::~NITFFieldSegment() = default;
 bool NITFFieldSegment::operator==(const NITFStdDataSegment& aOther) const
 {
     const auto* const other = dynamic_cast<const NITFFieldSegment*>(&aOther);
-    return this == &aOther ||
-           (other != nullptr && NITFStdDataSegment::operator==(aOther) &&
-            m_contents->fields == other->m_contents->fields && m_contents->tres == other->m_contents->tres);
+    return this == &aOther || (other != nullptr && NITFStdDataSegment::operator==(aOther) &&
+                               m_parts->record == other->m_parts->record && m_parts->tres == other->m_parts->tres);
 }
 
 bool NITFFieldSegment::CloneObj(const NITFStdDataSegment& aOther)
 {
     const auto* const other = dynamic_cast<const NITFFieldSegment*>(&aOther);
-    if (other == nullptr) {
+    // A segment of another kind or version has other fields: the object would be of one class and say the other.
+    if (other == nullptr || other->m_parts->layout != m_parts->layout) {
         return false;
     }
-    auto contents = std::make_unique<SegmentContents>(*other->m_contents);
+    auto parts = std::make_unique<Parts>(*other->m_parts);
     if (!NITFStdDataSegment::CloneObj(aOther)) {
         return false;
     }
-    m_contents = std::move(contents);
-    m_fileOffset = other->m_fileOffset;
-    m_views.reset();
+    m_parts = std::move(parts);
     return true;
 }
 
 void NITFFieldSegment::Assign(const NITFStdDataSegment& aOther)
 {
     if (this != &aOther && !CloneObj(aOther)) {
-        const std::string owner = Words().className != nullptr ? Words().className : Words().owner;
+        const std::string name = m_parts->layout->className;
         throw RequestedOperationFailedException(
-            ("ERROR: System failed to assign all the member variables of one " + owner + " to another.").c_str(),
-            (owner + "::Assign").c_str());
+            ("ERROR: System failed to assign all the member variables of one " + name + " to another.").c_str(),
+            (name + "::Assign").c_str());
     }
 }
 
@@ -94,168 +172,100 @@ void NITFFieldSegment::Swap(NITFStdDataSegment& aOther) noexcept
         return;
     }
     NITFStdDataSegment::Swap(aOther);
-    std::swap(m_contents, other->m_contents);
-    std::swap(m_fileOffset, other->m_fileOffset);
-    std::swap(m_views, other->m_views);
+    std::swap(m_parts, other->m_parts);
 }
 
-std::string NITFFieldSegment::FaultText(const Detail::WalkResult&, const std::string&) const
+bool NITFFieldSegment::SetDisplayLevel()
 {
-    return {};
+    const char* const tag = m_parts->layout->kind->drawing.displayLevel;
+    std::uint64_t level = 0;
+    if (tag == nullptr || !Detail::ToCount(FieldText(tag), level) || level == 0 || level > MOST_DISPLAY_LEVEL) {
+        return false;
+    }
+    SetLevels(level, GetDataSegmentAttachmentLevel());
+    return true;
 }
 
-bool NITFFieldSegment::ReadFields(std::string aRaw, std::uint64_t aFileOffset, std::uint64_t& aConsumed,
-                                  std::string& aErrors)
+bool NITFFieldSegment::SetAttachmentLevel()
 {
-    SegmentContents& contents = *m_contents;
-    contents.raw = std::move(aRaw);
-    m_fileOffset = aFileOffset;
-    m_views.reset();
-    const Detail::WalkResult result = Detail::FieldWalk::Read(contents.raw, contents.fields);
-    aConsumed = result.consumed;
-    if (result.IsGood()) {
-        return true;
+    const char* const tag = m_parts->layout->kind->drawing.attachmentLevel;
+    std::uint64_t level = 0;
+    if (tag == nullptr || !Detail::ToCount(FieldText(tag), level) || level > MOST_ATTACHMENT_LEVEL) {
+        return false;
     }
-    const Detail::SegmentWords& words = Words();
-    const FieldTable& table = contents.fields.Table();
-    const FieldRow& row = table.Row(result.row);
-    std::string name;
-    table.AppendName(result.row, result.turns, name);
-    name = name.empty() ? row.label : name;
-    const std::string tag = row.IsField() ? row.tag : name;
-    std::string text = FaultText(result, tag);
-    if (text.empty()) {
-        const bool conditional = row.need == Detail::Need::Conditional || row.need == Detail::Need::ConditionalBlank;
-        text = std::string(conditional ? words.conditionalPrefix : words.requiredPrefix) + Quoted(tag) +
-               words.streamSuffix;
-    }
-    text += "\n[" + std::string(words.owner) + " field " + name + " at byte offset " +
-            std::to_string(aFileOffset + result.offset);
-    if (result.fault == Detail::Fault::Short) {
-        text +=
-            ": " + std::to_string(result.wanted) + " byte(s) needed, " + std::to_string(result.available) + " left]";
-    } else {
-        text += ": value " + Detail::Shown(result.value) +
-                (result.fault == Detail::Fault::NotANumber ? " is not a number]"
-                 : result.fault == Detail::Fault::LengthTooSmall
-                     ? " is below " + std::to_string(result.wanted) + "]"
-                     : " promises " + std::to_string(result.wanted) + " byte(s), " + std::to_string(result.available) +
-                           " left]");
-    }
-    Detail::AppendBlock(aErrors, text);
-    Detail::AppendBlock(aErrors, words.summary);
-    contents = SegmentContents{{}, Detail::FieldStore(table), {}};
-    return false;
+    SetLevels(GetDataSegmentDisplayLevel(), level);
+    return true;
 }
 
-long NITFFieldSegment::CheckRequiredFields(std::string& aErrors) const
+void NITFFieldSegment::ReadTREs(Input& aInput)
 {
-    const Detail::FieldStore& fields = m_contents->fields;
-    const FieldTable& table = fields.Table();
-    long count = 0;
-    for (std::uint16_t row = 0; row != table.Size(); ++row) {
-        const bool wanted = table.Row(row).IsField() && table.Row(row).IsRequired() && table.Link(row).depth == 0;
-        if (wanted && fields.EntriesOf(row).empty()) {
-            Util::CSMUtilGeneric::ConstructMessage(true,
-                                                   (std::string(CSMMsg::Error::MISSING_REQUIRED_FIELD) + ' ').c_str(),
-                                                   Words().owner, table.Row(row).tag, aErrors);
-            ++count;
+    const Detail::FieldStore& fields = m_parts->record.Store();
+    for (const Detail::ExtensionArea& area : m_parts->layout->kind->areas) {
+        const FieldEntry* const entry = fields.Find(area.area);
+        if (entry == nullptr) {
+            continue;
         }
+        const std::string_view bytes = fields.Value(*entry);
+        Detail::ExtractTREs(bytes, m_parts->tres, {aInput.specificOnly, false}, aInput.byteOrder,
+                            m_parts->PlaceOf(area, *entry), aInput.Findings());
     }
-    return count;
 }
 
-int NITFFieldSegment::ReadTREs(const char* aFieldName, bool aSpecificOnly, bool aValidate, TRE::Type aUnknownType,
-                               Util::CSMCnst::ByteOrder aByteOrder)
+void NITFFieldSegment::FinishReading(Input& aInput)
 {
-    const Detail::FieldStore& fields = m_contents->fields;
-    const FieldEntry* const entry = fields.Find(aFieldName);
-    if (entry == nullptr) {
-        return 0;
-    }
-    const std::string_view area = fields.Value(*entry);
-    Detail::FindingList findings;
-    const int count = Detail::ExtractTREs(area, m_contents->tres, {aSpecificOnly, aValidate}, aByteOrder,
-                                          {aFieldName, m_fileOffset + fields.Position(*entry), aUnknownType}, findings);
-    if (!findings.IsEmpty()) {
-        AddWarning(findings.Blocks(false));
-    }
-    return count;
+    Detail::FindingList& findings = aInput.Findings();
+    findings.PlaceAt(aInput.mark, m_parts->layout->Owner(), aInput.Index());
+    SetMessages(findings.Blocks(true, aInput.mark), findings.Blocks(false, aInput.mark));
 }
 
-void NITFFieldSegment::AddSurplusWarning(std::uint64_t aConsumed)
+void NITFFieldSegment::Refuse(Input& aInput) const
 {
-    const std::string_view raw(m_contents->raw);
-    if (aConsumed >= raw.size()) {
-        return;
+    Detail::FindingList& findings = aInput.Findings();
+    findings.PlaceAt(aInput.mark, m_parts->layout->Owner(), aInput.Index());
+    std::string text = findings.Blocks(true, aInput.mark);
+    // The file header says more of what was wrong itself.
+    if (text.empty() || m_parts->layout->kind->kind != NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER) {
+        Detail::AppendBlock(text, m_parts->layout->summary);
     }
-    const std::string_view surplus = raw.substr(static_cast<std::size_t>(aConsumed));
-    const bool blank = surplus.find_first_not_of(' ') == std::string_view::npos;
-    AddWarning("WARN: The fields of the " + std::string(Words().owner) + " subheader at byte offset " +
-               std::to_string(m_fileOffset) + " take " + std::to_string(aConsumed) + " byte(s), the file header says " +
-               std::to_string(raw.size()) + "; the " + std::to_string(surplus.size()) + " surplus " +
-               (blank ? "blank(s) are" : "byte(s) (" + Detail::Shown(surplus) + ") are") + " left out.");
+    throw ImageSupportDataConstructionException(text.c_str(), m_parts->layout->source);
 }
 
 std::uint64_t NITFFieldSegment::NumberOf(std::string_view aName) const noexcept
 {
-    std::uint64_t number = 0;
-    return Detail::ToCount(FieldText(aName), number) ? number : 0;
-}
-
-std::string NITFFieldSegment::PlaceOf(std::string_view aName) const
-{
-    const Detail::FieldStore& fields = m_contents->fields;
-    const FieldEntry* const entry = fields.Find(aName);
-    std::string text = std::string("[") + Words().owner + " field ";
-    text += aName;
-    if (entry != nullptr) {
-        text += " at byte offset " + std::to_string(m_fileOffset + fields.Position(*entry)) + ": value " +
-                Detail::Shown(fields.Value(*entry));
-    }
-    return text + "]";
+    return m_parts->Number(aName);
 }
 
 std::string_view NITFFieldSegment::FieldText(std::string_view aName) const noexcept
 {
-    bool found = false;
-    return m_contents->fields.Find(aName, found);
+    return m_parts->record.Text(aName);
 }
 
 const char* NITFFieldSegment::GetRawHeader(std::size_t& aLength) const noexcept
 {
-    aLength = m_contents->raw.size();
-    return m_contents->raw.c_str();
+    aLength = m_parts->raw.size();
+    return m_parts->raw.c_str();
 }
 
 const TREStore& NITFFieldSegment::GetTREStore() const noexcept
 {
-    return m_contents->tres;
+    return m_parts->tres;
 }
 
-const FieldTable& NITFFieldSegment::GetFieldTable() const
+bool NITFFieldSegment::AddTRE(TRE* aTre)
 {
-    return m_contents->fields.Table();
+    m_parts->metadata.Reset();
+    return AddDataSegmentTRE(m_parts->tres, aTre);
 }
 
 std::size_t NITFFieldSegment::GetNumOfFields() const noexcept
 {
-    return m_contents->fields.Entries().size();
+    return m_parts->record.Store().Entries().size();
 }
 
 bool NITFFieldSegment::GetFieldAt(std::size_t aIndex, std::string& aName, const char*& aValue,
                                   std::size_t& aLength) const
 {
-    const Detail::FieldStore& fields = m_contents->fields;
-    if (aIndex >= fields.Entries().size()) {
-        return false;
-    }
-    const FieldEntry& entry = fields.Entries()[aIndex];
-    aName.clear();
-    fields.AppendName(entry, aName);
-    aValue = fields.Value(entry).data();
-    aLength = entry.length;
-    return true;
+    return m_parts->record.At(aIndex, aName, aValue, aLength);
 }
 
 const char* NITFFieldSegment::TreRefusal() const noexcept
@@ -265,7 +275,12 @@ const char* NITFFieldSegment::TreRefusal() const noexcept
 
 const TREStore& NITFFieldSegment::QueriedTREs() const noexcept
 {
-    return m_contents->tres;
+    return m_parts->tres;
+}
+
+bool NITFFieldSegment::GetDataField(std::string_view, const char*&, std::size_t&) const
+{
+    return false;
 }
 
 const TRE* NITFFieldSegment::FirstTRE(std::string_view aTag) const
@@ -276,15 +291,13 @@ const TRE* NITFFieldSegment::FirstTRE(std::string_view aTag) const
     return tres == nullptr ? nullptr : tres->front();
 }
 
-std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aTreTag, bool aText)
+std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aTreTag, bool aText) const
 {
     ClearMessages();
     const std::string_view name = Detail::Trimmed(aName);
     if (name.empty()) {
-        const Detail::SegmentWords& words = Words();
-        AddError(!Detail::Trimmed(aTreTag).empty() ? words.emptyTreName
-                 : aText                           ? words.emptyTextName
-                                                   : words.emptyName);
+        const Detail::SegmentWords& words = *m_parts->layout->words;
+        AddError(aText ? words.emptyTextName : Detail::Trimmed(aTreTag).empty() ? words.emptyName : words.emptyTreName);
         return {};
     }
     if (TreRefusal() != nullptr && !Detail::Trimmed(aTreTag).empty()) {
@@ -295,7 +308,7 @@ std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aT
 }
 
 bool NITFFieldSegment::GetFieldAsString(const char* aName, const char*& aValue, std::size_t& aLength,
-                                        const char* aTreTag)
+                                        const char* aTreTag) const
 {
     aValue = nullptr;
     aLength = 0;
@@ -303,27 +316,25 @@ bool NITFFieldSegment::GetFieldAsString(const char* aName, const char*& aValue, 
     if (name.empty()) {
         return false;
     }
+    const Detail::SegmentWords& words = *m_parts->layout->words;
     const std::string_view tag = Detail::Trimmed(aTreTag);
     if (!tag.empty()) {
         const TRE* const tre = FirstTRE(tag);
         if (tre != nullptr && tre->GetFieldAsString(aName, aValue, aLength)) {
             return true;
         }
-        AddError(Words().requestedTre + Quoted(name) + " not found.");
+        AddError(words.requestedTre + Quoted(name) + " not found.");
         return false;
     }
-    const FieldEntry* const entry = m_contents->fields.Find(name);
-    if (entry == nullptr) {
-        AddError(Words().requested + Quoted(name) + Words().notFound);
-        return false;
+    if (m_parts->record.Text(name, aValue, aLength) || GetDataField(name, aValue, aLength)) {
+        return true;
     }
-    aValue = m_contents->fields.Value(*entry).data();
-    aLength = entry->length;
-    return true;
+    AddError(words.requested + Quoted(name) + words.notFound);
+    return false;
 }
 
 bool NITFFieldSegment::GetFieldAsBinary(const char* aName, const char*& aValue, std::size_t& aLength,
-                                        const char* aTreTag)
+                                        const char* aTreTag) const
 {
     if (!GetFieldAsString(aName, aValue, aLength, aTreTag)) {
         return false;
@@ -339,7 +350,7 @@ bool NITFFieldSegment::GetFieldAsBinary(const char* aName, const char*& aValue, 
     return false;
 }
 
-bool NITFFieldSegment::GetFieldAsBool(const char* aName, bool& aValue, const char* aTreTag)
+bool NITFFieldSegment::GetFieldAsBool(const char* aName, bool& aValue, const char* aTreTag) const
 {
     const std::string_view name = CheckedName(aName, aTreTag, false);
     const char* text = nullptr;
@@ -347,118 +358,90 @@ bool NITFFieldSegment::GetFieldAsBool(const char* aName, bool& aValue, const cha
     if (name.empty() || !GetFieldAsString(aName, text, length, aTreTag)) {
         return false;
     }
-    if (!Util::CSMUtilString::ToBool(text, aValue)) {
-        AddError("ERROR: Data type of " + Quoted(name) + " is not a boolean type.");
-        return false;
+    if (m_parts->record.AsBool(name, aValue)) {
+        return true;
     }
-    return true;
+    const TRE* const tre = FirstTRE(Detail::Trimmed(aTreTag));
+    if (tre != nullptr && tre->GetFieldAsBool(aName, aValue)) {
+        return true;
+    }
+    AddError("ERROR: Data type of " + Quoted(name) + " is not a boolean type.");
+    return false;
 }
 
-template<typename Value, typename OfField, typename OfTre>
-bool NITFFieldSegment::Number(const char* aName, Value& aValue, const char* aTreTag, bool aReal, OfField aOfField,
-                              OfTre aOfTre)
+template<typename Value, typename Public, typename OfTre>
+bool NITFFieldSegment::Number(const char* aName, Public& aValue, const char* aTreTag, OfTre aOfTre) const
 {
+    constexpr bool REAL = std::is_floating_point_v<Value>;
     const std::string_view name = CheckedName(aName, aTreTag, false);
     if (name.empty()) {
         return false;
     }
+    const Detail::SegmentWords& words = *m_parts->layout->words;
     const std::string_view tag = Detail::Trimmed(aTreTag);
     if (!tag.empty()) {
         const TRE* const tre = FirstTRE(tag);
-        if (tre != nullptr && aOfTre(*tre, aValue)) {
+        if (tre != nullptr && (tre->*aOfTre)(aName, aValue)) {
             return true;
         }
-        const char* const reason = Words().isNotAField == nullptr ? " not found."
-                                   : aReal                        ? NOT_REAL
-                                                                  : NOT_POSITIVE_INTEGRAL;
-        AddError(Words().requestedTre + Quoted(name) + reason);
+        AddError(words.isNotAField == nullptr
+                     ? words.requestedTre + Quoted(name) + " not found."
+                     : words.treNumber + Quoted(name) + (REAL ? NOT_REAL : NOT_POSITIVE_INTEGRAL));
         return false;
     }
-    const FieldEntry* const entry = m_contents->fields.Find(name);
+    const Detail::FieldRecord& record = m_parts->record;
+    const FieldEntry* const entry = record.Find(name);
     if (entry == nullptr) {
-        const Detail::SegmentWords& words = Words();
         AddError(words.isNotAField == nullptr ? words.requested + Quoted(name) + words.notFound
                                               : "ERROR: Data type of " + Quoted(name) + words.isNotAField);
         return false;
     }
-    const FieldRow& row = m_contents->fields.Row(*entry);
+    const FieldRow& row = record.Store().Row(*entry);
     const bool real = row.form == Detail::Form::Real || row.form == Detail::Form::Float;
-    if (aReal && !real) {
+    if (REAL && !real) {
         AddWarning("WARN: Data type of field " + Quoted(name) + " is not floating point type.");
-    } else if (!aReal && !Detail::IsIntegral(row)) {
+    } else if (!REAL && !Detail::IsIntegral(row)) {
         AddError("ERROR: Data type of " + Quoted(name) + NOT_INTEGRAL);
         return false;
     }
-    if (!aOfField(row, m_contents->fields.Value(*entry), aValue)) {
-        AddError(NOT_CONVERTED);
+    Value value{};
+    if (!record.As(*entry, value)) {
+        AddError(REAL ? "ERROR: The value of field " + Quoted(name) + " is no number." : NOT_CONVERTED);
         return false;
     }
+    aValue = value;
     return true;
 }
 
-bool NITFFieldSegment::GetFieldAsDouble(const char* aName, double& aValue, const char* aTreTag)
+bool NITFFieldSegment::GetFieldAsDouble(const char* aName, double& aValue, const char* aTreTag) const
 {
-    return Number(
-        aName, aValue, aTreTag, true,
-        [](const FieldRow& aRow, std::string_view aText, double& aOut) {
-            return Detail::ValueAsDouble(aRow, aText, HEADER_BYTE_ORDER, aOut);
-        },
-        [aName](const TRE& aTre, double& aOut) { return aTre.GetFieldAsDouble(aName, aOut); });
+    return Number<double>(aName, aValue, aTreTag, &TRE::GetFieldAsDouble);
 }
 
-bool NITFFieldSegment::GetFieldAsInt64(const char* aName, std::int64_t& aValue, const char* aTreTag)
+bool NITFFieldSegment::GetFieldAsInt64(const char* aName, std::int64_t& aValue, const char* aTreTag) const
 {
-    return Number(
-        aName, aValue, aTreTag, false,
-        [](const FieldRow& aRow, std::string_view aText, std::int64_t& aOut) {
-            return Detail::ValueAsInt64(aRow, aText, HEADER_BYTE_ORDER, aOut);
-        },
-        [aName](const TRE& aTre, std::int64_t& aOut) { return aTre.GetFieldAsInt64(aName, aOut); });
+    return Number<std::int64_t>(aName, aValue, aTreTag, &TRE::GetFieldAsInt64);
 }
 
-bool NITFFieldSegment::GetFieldAsUInt64(const char* aName, std::uint64_t& aValue, const char* aTreTag)
+bool NITFFieldSegment::GetFieldAsUInt64(const char* aName, std::uint64_t& aValue, const char* aTreTag) const
 {
-    return Number(
-        aName, aValue, aTreTag, false,
-        [](const FieldRow& aRow, std::string_view aText, std::uint64_t& aOut) {
-            return Detail::ValueAsUInt64(aRow, aText, HEADER_BYTE_ORDER, aOut);
-        },
-        [aName](const TRE& aTre, std::uint64_t& aOut) { return aTre.GetFieldAsUInt64(aName, aOut); });
+    return Number<std::uint64_t>(aName, aValue, aTreTag, &TRE::GetFieldAsUInt64);
 }
 
-bool NITFFieldSegment::GetFieldAsLong(const char* aName, long& aValue, const char* aTreTag)
+bool NITFFieldSegment::GetFieldAsLong(const char* aName, long& aValue, const char* aTreTag) const
 {
-    return Number(
-        aName, aValue, aTreTag, false,
-        [](const FieldRow& aRow, std::string_view aText, long& aOut) {
-            std::int64_t value = 0;
-            const bool fits = Detail::ValueAsInt64(aRow, aText, HEADER_BYTE_ORDER, value) &&
-                              value >= std::numeric_limits<std::int32_t>::min() &&
-                              value <= std::numeric_limits<std::int32_t>::max();
-            aOut = fits ? static_cast<long>(value) : aOut;
-            return fits;
-        },
-        [aName](const TRE& aTre, long& aOut) { return aTre.GetFieldAsLong(aName, aOut); });
+    return Number<std::int32_t>(aName, aValue, aTreTag, &TRE::GetFieldAsLong);
 }
 
-bool NITFFieldSegment::GetFieldAsUnsignedLong(const char* aName, unsigned long& aValue, const char* aTreTag)
+bool NITFFieldSegment::GetFieldAsUnsignedLong(const char* aName, unsigned long& aValue, const char* aTreTag) const
 {
-    return Number(
-        aName, aValue, aTreTag, false,
-        [](const FieldRow& aRow, std::string_view aText, unsigned long& aOut) {
-            std::uint64_t value = 0;
-            const bool fits = Detail::ValueAsUInt64(aRow, aText, HEADER_BYTE_ORDER, value) &&
-                              value <= std::numeric_limits<std::uint32_t>::max();
-            aOut = fits ? static_cast<unsigned long>(value) : aOut;
-            return fits;
-        },
-        [aName](const TRE& aTre, unsigned long& aOut) { return aTre.GetFieldAsUnsignedLong(aName, aOut); });
+    return Number<std::uint32_t>(aName, aValue, aTreTag, &TRE::GetFieldAsUnsignedLong);
 }
 
 Util::CSMCnst::DataType NITFFieldSegment::GetFieldValueDataType(const char* aName) const
 {
     Detail::Turns turns{};
-    const FieldTable& table = GetFieldTable();
+    const FieldTable& table = m_parts->layout->table;
     const std::string_view name = Detail::Trimmed(aName);
     std::uint16_t row = table.Resolve(name, turns);
     row = row == Detail::NO_ROW ? table.FindAny(name) : row;
@@ -467,21 +450,12 @@ Util::CSMCnst::DataType NITFFieldSegment::GetFieldValueDataType(const char* aNam
 
 int NITFFieldSegment::IsFieldValueInRange(const char* aName, const char* aValue) const
 {
-    Detail::Turns turns{};
-    const FieldTable& table = GetFieldTable();
-    const std::string_view name = Detail::Trimmed(aName);
-    std::uint16_t row = table.Resolve(name, turns);
-    row = row == Detail::NO_ROW ? table.FindAny(name) : row;
-    if (row == Detail::NO_ROW || aValue == nullptr) {
-        return -1;
-    }
-    return Detail::CheckValue(table.Row(row), aValue) == Detail::Verdict::Good ? 1 : 0;
+    return m_parts->record.Allows(Detail::ViewOf(aName), aValue);
 }
 
 bool NITFFieldSegment::IsBinaryField(const char* aName) const
 {
-    const FieldEntry* const entry = m_contents->fields.Find(Detail::Trimmed(aName));
-    return entry != nullptr && m_contents->fields.Row(*entry).IsBinary();
+    return m_parts->record.IsBinary(Detail::ViewOf(aName));
 }
 
 bool NITFFieldSegment::IsFieldEditable(const char* aName, const char* aTreTag) const
@@ -491,8 +465,7 @@ bool NITFFieldSegment::IsFieldEditable(const char* aName, const char* aTreTag) c
         const TRE* const tre = FirstTRE(tag);
         return tre != nullptr && tre->IsFieldEditable(aName);
     }
-    const FieldEntry* const entry = m_contents->fields.Find(Detail::Trimmed(aName));
-    return entry != nullptr && GetFieldTable().IsEditable(entry->row);
+    return m_parts->record.IsEditable(Detail::ViewOf(aName));
 }
 
 bool NITFFieldSegment::IsTREOfThisDataSegment(const char* aTag) const

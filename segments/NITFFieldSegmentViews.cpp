@@ -1,68 +1,68 @@
 // The lists and maps that a header hands out, made when somebody asks for them.
 
-#include "foundation/detail/OnFirstUse.h"
 #include "segments/NITFFieldSegment.h"
-#include "segments/detail/SegmentContents.h"
+#include "segments/RawNITFMetadataStdDataSegment.h"
+#include "segments/detail/SegmentLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 
 using Detail::FieldEntry;
 using Detail::FieldRow;
 using Detail::FieldTable;
-using Detail::OnFirstUse;
-using Detail::SegmentViews;
 
-SegmentViews& NITFFieldSegment::Views() const
+namespace {
+
+/// One element of a list for each field of a table.
+template<typename List, typename Add>
+List ForEachField(const FieldTable& aTable, Add aAdd)
 {
-    return Detail::ViewsOf(m_views);
+    List list;
+    for (std::uint16_t row = 0; row != aTable.Size(); ++row) {
+        if (aTable.Row(row).IsField()) {
+            aAdd(list, aTable.Row(row), row);
+        }
+    }
+    return list;
 }
+
+}  // namespace
 
 const std::vector<const char*>* NITFFieldSegment::GetAllFieldTags() const
 {
-    SegmentViews& views = Views();
-    return OnFirstUse(views, views.tags, [this](std::vector<const char*>& aTags) {
-        for (const FieldRow& row : GetFieldTable().Rows()) {
-            if (row.IsField()) {
-                aTags.push_back(row.tag);
-            }
-        }
+    return &m_parts->tags.Get([this] {
+        return ForEachField<std::vector<const char*>>(
+            m_parts->layout->table, [](auto& aList, const FieldRow& aRow, auto) { aList.push_back(aRow.tag); });
     });
 }
 
 const std::vector<const char*>* NITFFieldSegment::GetAllFieldDescriptions() const
 {
-    SegmentViews& views = Views();
-    return OnFirstUse(views, views.descriptions, [this](std::vector<const char*>& aTexts) {
-        for (const FieldRow& row : GetFieldTable().Rows()) {
-            if (row.IsField()) {
-                aTexts.push_back(row.label);
-            }
-        }
+    return &m_parts->descriptions.Get([this] {
+        return ForEachField<std::vector<const char*>>(
+            m_parts->layout->table, [](auto& aList, const FieldRow& aRow, auto) { aList.push_back(aRow.label); });
     });
 }
 
 const std::vector<bool>* NITFFieldSegment::GetBinaryFieldList() const
 {
-    SegmentViews& views = Views();
-    return OnFirstUse(views, views.binary, [this](std::vector<bool>& aFlags) {
-        for (const FieldEntry& entry : m_contents->fields.Entries()) {
-            aFlags.push_back(m_contents->fields.Row(entry).IsBinary());
+    return &m_parts->binary.Get([this] {
+        std::vector<bool> flags;
+        const Detail::FieldStore& fields = m_parts->record.Store();
+        for (const FieldEntry& entry : fields.Entries()) {
+            flags.push_back(fields.Row(entry).IsBinary());
         }
+        return flags;
     });
 }
 
 const NITFStdDataSegment::FieldTexts* NITFFieldSegment::GetFieldEditabilityMap() const
 {
-    SegmentViews& views = Views();
-    return OnFirstUse(views, views.editability, [this](FieldTexts& aMap) {
-        const FieldTable& table = GetFieldTable();
-        for (std::uint16_t row = 0; row != table.Size(); ++row) {
-            if (table.Row(row).IsField()) {
-                const bool editable = table.IsEditable(row);
-                aMap.emplace(table.Row(row).tag,
-                             editable ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE);
-            }
-        }
+    return &m_parts->editability.Get([this] {
+        const FieldTable& table = m_parts->layout->table;
+        return ForEachField<FieldTexts>(table, [&table](auto& aMap, const FieldRow& aRow, std::uint16_t aPlace) {
+            aMap.emplace(aRow.tag,
+                         table.IsEditable(aPlace) ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE);
+        });
     });
 }
 
@@ -70,26 +70,20 @@ bool NITFFieldSegment::GetFieldsMetadata(const FieldTexts*& aEditability, const 
                                          const FieldTypes*& aTypes, const std::vector<const char*>*& aDescriptions,
                                          const std::vector<const char*>*& aTags, int& aVersion) const
 {
-    SegmentViews& views = Views();
     aEditability = GetFieldEditabilityMap();
     aDescriptions = GetAllFieldDescriptions();
     aTags = GetAllFieldTags();
-    aLengths = OnFirstUse(views, views.lengths, [this](FieldLengths& aMap) {
-        for (const FieldRow& row : GetFieldTable().Rows()) {
-            if (row.IsField()) {
-                aMap[row.tag] = static_cast<int>(row.width);
-            }
-        }
+    aLengths = &m_parts->lengths.Get([this] {
+        return ForEachField<FieldLengths>(m_parts->layout->table, [](auto& aMap, const FieldRow& aRow, auto) {
+            aMap[aRow.tag] = static_cast<int>(aRow.width);
+        });
     });
-    aTypes = OnFirstUse(views, views.types, [this](FieldTypes& aMap) {
-        for (const FieldRow& row : GetFieldTable().Rows()) {
-            if (row.IsField()) {
-                aMap[row.tag] = static_cast<NITFCnst::FieldType>(row.need);
-            }
-        }
+    aTypes = &m_parts->types.Get([this] {
+        return ForEachField<FieldTypes>(m_parts->layout->table, [](auto& aMap, const FieldRow& aRow, auto) {
+            aMap[aRow.tag] = static_cast<NITFCnst::FieldType>(aRow.need);
+        });
     });
-    const bool is20 = std::string_view(GetNITFVersion()) == NITFCnst::STR_NITF_0200;
-    aVersion = is20 ? NITFCnst::NITF_VERSION_NUMBER_20 : NITFCnst::NITF_VERSION_NUMBER_21;
+    aVersion = m_parts->layout->kind->version;
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
+#include "foundation/detail/QueryMessages.h"
 #include "tre/TREFactory.h"
 
 #include <algorithm>
@@ -87,8 +88,16 @@ void NITFStdDataSegment::DeleteCharBuffer(char** aBuffer) noexcept
     }
 }
 
+/// What reading or validating said, and what each thread's last query said.
+struct NITFStdDataSegment::Messages
+{
+    std::string error;
+    std::string warning;
+    Detail::QueryMessages queries;
+};
+
 NITFStdDataSegment::NITFStdDataSegment(const char* aVersionText, NITFCnst::DataSegmentType aKind)
-    : m_versionText(Detail::Trimmed(aVersionText)), m_kind(aKind)
+    : m_versionText(Detail::Trimmed(aVersionText)), m_kind(aKind), m_messages(std::make_unique<Messages>())
 {
     if (m_versionText.empty()) {
         throw InitializationException("ERROR: NULL/empty input NITF file version string.",
@@ -96,7 +105,8 @@ NITFStdDataSegment::NITFStdDataSegment(const char* aVersionText, NITFCnst::DataS
     }
 }
 
-NITFStdDataSegment::NITFStdDataSegment(const NITFStdDataSegment& aOther) : m_kind(aOther.m_kind)
+NITFStdDataSegment::NITFStdDataSegment(const NITFStdDataSegment& aOther)
+    : m_kind(aOther.m_kind), m_messages(std::make_unique<Messages>())
 {
     if (!NITFStdDataSegment::CloneObj(aOther)) {
         throw std::invalid_argument(
@@ -105,6 +115,18 @@ NITFStdDataSegment::NITFStdDataSegment(const NITFStdDataSegment& aOther) : m_kin
 }
 
 NITFStdDataSegment::~NITFStdDataSegment() = default;
+
+const char* NITFStdDataSegment::GetErrorMessage() const noexcept
+{
+    const Detail::QueryMessages::Texts* const texts = m_messages->queries.Find();
+    return texts == nullptr ? m_messages->error.c_str() : texts->error.c_str();
+}
+
+const char* NITFStdDataSegment::GetWarningMessage() const noexcept
+{
+    const Detail::QueryMessages::Texts* const texts = m_messages->queries.Find();
+    return texts == nullptr ? m_messages->warning.c_str() : texts->warning.c_str();
+}
 
 std::uint64_t NITFStdDataSegment::GetSegmentDataSize() const noexcept
 {
@@ -144,6 +166,11 @@ bool NITFStdDataSegment::AddOverflowTRE(const TRE* aTre)
         return false;
     }
     return true;
+}
+
+void NITFStdDataSegment::TakeOverflowTREs(TREStore& aStore)
+{
+    m_overflow.Take(aStore);
 }
 
 bool NITFStdDataSegment::GetAllOverflowTREs(const TRE**& aArray, std::size_t& aCount) const
@@ -186,35 +213,35 @@ bool NITFStdDataSegment::GetCommonCoordinateSys(long& aRow, long& aColumn, long&
     return false;
 }
 
-bool NITFStdDataSegment::GetFieldAsBinary(const char*, const char*&, std::size_t&, const char*)
+bool NITFStdDataSegment::GetFieldAsBinary(const char*, const char*&, std::size_t&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsBool(const char*, bool&, const char*)
+bool NITFStdDataSegment::GetFieldAsBool(const char*, bool&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsDouble(const char*, double&, const char*)
+bool NITFStdDataSegment::GetFieldAsDouble(const char*, double&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsInt64(const char*, std::int64_t&, const char*)
+bool NITFStdDataSegment::GetFieldAsInt64(const char*, std::int64_t&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsLong(const char*, long&, const char*)
+bool NITFStdDataSegment::GetFieldAsLong(const char*, long&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsString(const char*, const char*&, std::size_t&, const char*)
+bool NITFStdDataSegment::GetFieldAsString(const char*, const char*&, std::size_t&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsUInt64(const char*, std::uint64_t&, const char*)
+bool NITFStdDataSegment::GetFieldAsUInt64(const char*, std::uint64_t&, const char*) const
 {
     return false;
 }
-bool NITFStdDataSegment::GetFieldAsUnsignedLong(const char*, unsigned long&, const char*)
+bool NITFStdDataSegment::GetFieldAsUnsignedLong(const char*, unsigned long&, const char*) const
 {
     return false;
 }
@@ -310,8 +337,7 @@ bool NITFStdDataSegment::CloneObj(const NITFStdDataSegment& aOther)
     m_kind = aOther.m_kind;
     m_attachmentLevel = aOther.m_attachmentLevel;
     m_displayLevel = aOther.m_displayLevel;
-    m_error = aOther.m_error;
-    m_warning = aOther.m_warning;
+    SetMessages(aOther.GetErrorMessage(), aOther.GetWarningMessage());
     return NITFStdDataSegment::CloneOverflowTREs(aOther);
 }
 
@@ -335,8 +361,7 @@ void NITFStdDataSegment::Swap(NITFStdDataSegment& aOther) noexcept
     std::swap(m_overflow, aOther.m_overflow);
     std::swap(m_attachmentLevel, aOther.m_attachmentLevel);
     std::swap(m_displayLevel, aOther.m_displayLevel);
-    std::swap(m_error, aOther.m_error);
-    std::swap(m_warning, aOther.m_warning);
+    std::swap(m_messages, aOther.m_messages);
 }
 
 void NITFStdDataSegment::SetNITFStdDataSegmentInfo(const NITFStdDataSegmentInfo& aInfo)
@@ -344,19 +369,26 @@ void NITFStdDataSegment::SetNITFStdDataSegmentInfo(const NITFStdDataSegmentInfo&
     m_info = std::make_unique<NITFStdDataSegmentInfo>(aInfo);
 }
 
-void NITFStdDataSegment::ClearMessages() noexcept
+void NITFStdDataSegment::SetMessages(std::string aErrors, std::string aWarnings)
 {
-    m_error.clear();
-    m_warning.clear();
+    m_messages->error = std::move(aErrors);
+    m_messages->warning = std::move(aWarnings);
+    m_messages->queries.Forget();
 }
 
-void NITFStdDataSegment::AddError(const std::string& aMessage)
+void NITFStdDataSegment::ClearMessages() const
 {
-    Detail::AppendBlock(m_error, aMessage);
+    m_messages->queries.Begin();
 }
-void NITFStdDataSegment::AddWarning(const std::string& aMessage)
+
+void NITFStdDataSegment::AddError(const std::string& aMessage) const
 {
-    Detail::AppendBlock(m_warning, aMessage);
+    Detail::AppendBlock(m_messages->queries.Current().error, aMessage);
+}
+
+void NITFStdDataSegment::AddWarning(const std::string& aMessage) const
+{
+    Detail::AppendBlock(m_messages->queries.Current().warning, aMessage);
 }
 
 void NITFStdDataSegment::SetLevels(std::uint64_t aDisplay, std::uint64_t aAttachment) noexcept

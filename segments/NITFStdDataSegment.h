@@ -15,10 +15,6 @@
 
 namespace ORMO::SensorModel::CSM {
 
-namespace Detail {
-class FieldTable;
-}
-
 /// What the file header and every subheader share: kind and place of the segment, the messages of the last operation,
 /// display and attachment level, and the TREs that an overflow DES carries on the segment's behalf.
 class ORMO_CSM_API NITFStdDataSegment
@@ -46,8 +42,10 @@ public:
     /// Bytes of data; 0 without segment information.
     std::uint64_t GetSegmentDataSize() const noexcept;
     std::uint64_t GetSegmentDataStart() const noexcept;
-    const char* GetErrorMessage() const noexcept { return m_error.c_str(); }
-    const char* GetWarningMessage() const noexcept { return m_warning.c_str(); }
+    /// The texts of the last operation: of the query that this thread asked last, or else of reading or validating the
+    /// segment. They stay until this thread asks again.
+    const char* GetErrorMessage() const noexcept;
+    const char* GetWarningMessage() const noexcept;
     std::uint64_t GetDataSegmentDisplayLevel() const noexcept { return m_displayLevel; }
     std::uint64_t GetDataSegmentAttachmentLevel() const noexcept { return m_attachmentLevel; }
     void GetCCSOffsetValues(long& aColumn, long& aRow) const noexcept;
@@ -57,6 +55,8 @@ public:
 
     /// Keeps a deep copy; the caller keeps its own TRE. False for null or when no copy can be made.
     bool AddOverflowTRE(const TRE* aTre);
+    /// Takes all TREs of a store over, behind its own; the store is empty afterwards.
+    void TakeOverflowTREs(TREStore& aStore);
     bool HasOverFlowTREs() const noexcept { return !m_overflow.IsEmpty(); }
     /// All overflow TREs, grouped by tag in tag order. The array is the caller's (DeleteTREPointerArray), the TREs stay
     /// the segment's.
@@ -76,15 +76,15 @@ public:
     // The value of a field of this header or, with a TRE tag, of the first TRE of that tag. False, with a text in the
     // error message, when there is none or it does not convert. Pointers that are handed out belong to the segment.
     virtual bool GetFieldAsBinary(const char* aName, const char*& aValue, std::size_t& aLength,
-                                  const char* aTreTag = nullptr);
-    virtual bool GetFieldAsBool(const char* aName, bool& aValue, const char* aTreTag = nullptr);
-    virtual bool GetFieldAsDouble(const char* aName, double& aValue, const char* aTreTag = nullptr);
-    virtual bool GetFieldAsInt64(const char* aName, std::int64_t& aValue, const char* aTreTag = nullptr);
-    virtual bool GetFieldAsLong(const char* aName, long& aValue, const char* aTreTag = nullptr);
+                                  const char* aTreTag = nullptr) const;
+    virtual bool GetFieldAsBool(const char* aName, bool& aValue, const char* aTreTag = nullptr) const;
+    virtual bool GetFieldAsDouble(const char* aName, double& aValue, const char* aTreTag = nullptr) const;
+    virtual bool GetFieldAsInt64(const char* aName, std::int64_t& aValue, const char* aTreTag = nullptr) const;
+    virtual bool GetFieldAsLong(const char* aName, long& aValue, const char* aTreTag = nullptr) const;
     virtual bool GetFieldAsString(const char* aName, const char*& aValue, std::size_t& aLength,
-                                  const char* aTreTag = nullptr);
-    virtual bool GetFieldAsUInt64(const char* aName, std::uint64_t& aValue, const char* aTreTag = nullptr);
-    virtual bool GetFieldAsUnsignedLong(const char* aName, unsigned long& aValue, const char* aTreTag = nullptr);
+                                  const char* aTreTag = nullptr) const;
+    virtual bool GetFieldAsUInt64(const char* aName, std::uint64_t& aValue, const char* aTreTag = nullptr) const;
+    virtual bool GetFieldAsUnsignedLong(const char* aName, unsigned long& aValue, const char* aTreTag = nullptr) const;
     /// Field name to "T" (a user may change it) or "F".
     virtual const FieldTexts* GetFieldEditabilityMap() const = 0;
     /// How the value of a field is to be understood; unknown for an unknown name.
@@ -103,8 +103,8 @@ public:
     virtual bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings);
     /// The segment's XML element behind the given indent, cached until the next call; null when it cannot be had.
     virtual const char* SerializeDataSegment(const char* aIndent) = 0;
-    /// The field table of this header.
-    virtual const Detail::FieldTable& GetFieldTable() const = 0;
+    /// The tags of the field table of this header, in the order of the header.
+    virtual const std::vector<const char*>* GetAllFieldTags() const = 0;
 
 protected:
     /// Raises CSMException-derived InitializationException for an empty version.
@@ -123,9 +123,13 @@ protected:
     virtual void Swap(NITFStdDataSegment& aOther) noexcept;
 
     void SetNITFStdDataSegmentInfo(const NITFStdDataSegmentInfo& aInfo);
-    void ClearMessages() noexcept;
-    void AddError(const std::string& aMessage);
-    void AddWarning(const std::string& aMessage);
+    /// What reading or validating the segment has to say.
+    void SetMessages(std::string aErrors, std::string aWarnings);
+    /// Begins a query: the texts of this thread's last one are gone.
+    void ClearMessages() const;
+    /// What a query has to say, to the thread that asks.
+    void AddError(const std::string& aMessage) const;
+    void AddWarning(const std::string& aMessage) const;
     void SetLevels(std::uint64_t aDisplay, std::uint64_t aAttachment) noexcept;
     void SetCCSOffsets(long aColumn, long aRow) noexcept;
     void SetContainsEmbeddedBinaryData(bool aContains) noexcept { m_embeddedBinary = aContains; }
@@ -137,6 +141,8 @@ protected:
     static void CleanNITFTreMap(TREStore& aStore) noexcept;
 
 private:
+    struct Messages;
+
     bool m_embeddedBinary = false;
     std::string m_versionText;
     std::unique_ptr<NITFStdDataSegmentInfo> m_info;
@@ -146,8 +152,7 @@ private:
     TREStore m_overflow;
     std::uint64_t m_attachmentLevel = 0;
     std::uint64_t m_displayLevel = 0;
-    std::string m_error;
-    std::string m_warning;
+    std::unique_ptr<Messages> m_messages;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -4,6 +4,7 @@
 #include "fields/Number.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/NITFStdDataSegment.h"
+#include "segments/detail/SegmentKind.h"
 
 #include <string_view>
 #include <tuple>
@@ -25,27 +26,12 @@ bool IsKnownVersion(NITFCnst::Version aVersion) noexcept
 
 NITFCnst::DataSegmentType KindOf(std::string_view aType, NITFCnst::Version aVersion) noexcept
 {
-    const bool since21 = aVersion == NITFCnst::NITF_VERSION_NUMBER_21 || aVersion == NITFCnst::NSIF_VERSION_NUMBER_10;
-    const bool is20 = aVersion == NITFCnst::NITF_VERSION_NUMBER_20;
-    if (aType == "IM") {
-        return NITFCnst::DATA_SEGMENT_TYPE_IMAGE;
-    }
-    if (aType == "TE") {
-        return NITFCnst::DATA_SEGMENT_TYPE_TEXT;
-    }
-    if (aType == "DE") {
-        return NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION;
-    }
-    if (aType == "RE") {
-        return NITFCnst::DATA_SEGMENT_TYPE_RESERVED_EXTENSION;
-    }
-    if (aType == "SY" && (since21 || is20)) {
-        return since21 ? NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC : NITFCnst::DATA_SEGMENT_TYPE_SYMBOL;
-    }
-    if (aType == "LA" && is20) {
-        return NITFCnst::DATA_SEGMENT_TYPE_LABEL;
-    }
-    return NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+    const Detail::SegmentKind* const kind = Detail::FindKind(aType, aVersion);
+    // NITF 1.1 has the marks of later versions, but none for drawings.
+    const bool drawn = kind != nullptr && kind->kind == NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC;
+    return kind == nullptr || (drawn && aVersion == NITFCnst::NITF_VERSION_NUMBER_11)
+               ? NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN
+               : kind->kind;
 }
 
 }  // namespace

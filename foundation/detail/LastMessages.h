@@ -1,6 +1,9 @@
 #pragma once
 
+#include "foundation/Finding.h"
+
 #include <string>
+#include <vector>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
@@ -16,11 +19,13 @@ struct LastMessages
 {
     std::string error;
     std::string warning;
+    std::vector<Finding> findings;
 
     void Clear() noexcept
     {
         error.clear();
         warning.clear();
+        findings.clear();
     }
 
     void SetError(const char* aText) { error = aText == nullptr ? "" : aText; }

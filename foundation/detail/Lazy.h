@@ -26,15 +26,22 @@ public:
     template<typename Make>
     const Part& Get(Make aMake) const
     {
+        return *TryGet([&aMake] { return std::make_unique<const Part>(aMake()); });
+    }
+
+    /// The same for a part that may fail to be made: null, with nothing kept, when `aMake` returns a null pointer.
+    template<typename Make>
+    const Part* TryGet(Make aMake) const
+    {
         if (const Part* const made = m_part.load(std::memory_order_acquire)) {
-            return *made;
+            return made;
         }
-        auto mine = std::make_unique<const Part>(aMake());
+        std::unique_ptr<const Part> mine = aMake();
         const Part* first = nullptr;
-        if (m_part.compare_exchange_strong(first, mine.get(), std::memory_order_acq_rel)) {
-            return *mine.release();
+        if (mine != nullptr && m_part.compare_exchange_strong(first, mine.get(), std::memory_order_acq_rel)) {
+            return mine.release();
         }
-        return *first;
+        return first;
     }
 
     /// The part when there is one already, or null.

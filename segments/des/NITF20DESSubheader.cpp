@@ -1,13 +1,11 @@
 #include "segments/des/NITF20DESSubheader.h"
 
-#include "fields/FieldTable.h"
-#include "fields/FieldWalk.h"
 #include "foundation/detail/Ascii.h"
+#include "segments/des/detail/DesCheck.h"
 #include "segments/detail/SecurityRows.h"
-#include "segments/detail/SegmentWords.h"
+#include "segments/detail/SegmentLayout.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -35,11 +33,12 @@ bool IsOverflow(const WalkContext& aContext)
 
 // MIL-STD-2500A, table XVIII.
 // clang-format off
-constexpr FieldRow ROWS[] = {
+constexpr FieldRow HEAD[] = {
     Field("DE",       2, Required,        Text,        "DE", "", "File Part Type [DE]"),
     Field("DESTAG",  25, Required,        Text,        "", "", "Unique DES Type Identifier").Locked(),
     Field("DESVER",   2, Required,        Digits,      "01..99", "", "Version of the Data Field Definition [01-99]").Locked(),
-    ORMO_SECURITY_ROWS_20("DES", "DES"),
+};
+constexpr FieldRow BODY[] = {
     WhenBy("DESTAG is an overflow tag", IsOverflow),
         Field("DESOFLW",  6, Conditional,     Text,        "XHD|IXSHD|SXSHD|LXSHD|LSXHD|TXSHD|UDHD|UDID", "", "Overflowed Header Type [XHD|IXSHD|SXSHD|LXSHD|TXSHD|UDHD|UDID]").Locked(),
         Field("DESITEM",  3, Conditional,     Digits,      "000..999", "", "Data Item Overflowed [000-999]").Locked(),
@@ -50,44 +49,33 @@ constexpr FieldRow ROWS[] = {
     End(),
 };
 // clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
+constexpr auto ROWS = JoinRows(HEAD, SECURITY_20<"DES", "DES">, BODY);
+constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
-static_assert(FixedWidth(ROWS) == 200);
+static_assert(FixedWidth(ROWS.rows) == 200);
 
-constexpr SegmentWords WORDS = DesWords(
-    "NITF20DESSubheader",
-    "ERROR: Failed to get all the NITF 2.0 DES subheader field values from the input DES subheader data stream.");
+constexpr NITFFieldSegment::Layout LAYOUT{
+    .className = "NITF20DESSubheader",
+    .source = "NITF20DESSubheader::InitNITF20DESSubheader",
+    .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, NITFCnst::NITF_VERSION_NUMBER_20),
+    .words = &DES_WORDS,
+    .table = TABLE.View(),
+    .summary =
+        "ERROR: Failed to get all the NITF 2.0 DES subheader field values from the input DES subheader data stream.",
+    .check = &CheckDesSegment};
 
 }  // namespace
 
-NITF20DESSubheader::NITF20DESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                       const char* aVersionText, std::shared_ptr<const Detail::ByteSource> aSource,
-                                       Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly)
-    : NITFDESSubheader(aVersionText, Table())
-{
-    InitNITFDES(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
-                "NITF20DESSubheader::InitNITF20DESSubheader");
-}
-
-const Detail::FieldTable& NITF20DESSubheader::Table() noexcept
-{
-    static constexpr FieldTable table = TABLE.View();
-    return table;
-}
+NITF20DESSubheader::NITF20DESSubheader(Input& aInput) : NITFDESSubheader(LAYOUT, aInput) {}
 
 bool NITF20DESSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(LAYOUT.table, Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
-const Detail::SegmentWords& NITF20DESSubheader::Words() const
+const NITFFieldSegment::Layout& NITF20DESSubheader::GetLayout() noexcept
 {
-    return WORDS;
-}
-
-bool NITF20DESSubheader::IsOverflowType(std::string_view aType) const noexcept
-{
-    return IsOverflowTag(aType);
+    return LAYOUT;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -3,8 +3,6 @@
 #include "NITFDESSubheader.h"
 
 #include <cstddef>
-#include <memory>
-#include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -12,12 +10,8 @@ namespace ORMO::SensorModel::CSM {
 class ORMO_CSM_API NITF20DESSubheader : public NITFDESSubheader
 {
 public:
-    /// Reads a raw subheader that stands where `aInfo` says; the data are read from `aSource`, those of an overflow DES
-    /// at once and all others later. `aByteOrder` is that of binary TRE fields. With `aSpecificOnly`, TREs without a
-    /// typed form are left out. Raises ImageSupportDataConstructionException with all that was wrong.
-    NITF20DESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
-                       std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
-                       bool aSpecificOnly = false);
+    /// Made by the reader of files only.
+    explicit NITF20DESSubheader(Input& aInput);
     NITF20DESSubheader(const NITF20DESSubheader& aOther) = default;
     using NITFDESSubheader::operator=;
     using NITFDESSubheader::operator==;
@@ -30,14 +24,10 @@ public:
     bool operator==(const NITF20DESSubheader& aOther) const { return NITFDESSubheader::operator==(aOther); }
     bool operator!=(const NITF20DESSubheader& aOther) const { return !(*this == aOther); }
 
-    static const Detail::FieldTable& Table() noexcept;
-    /// The smallest and largest width of a field; false for an unknown tag.
+    /// The smallest and largest width of a field; false for an unknown tag. Widths given by another field are 0 to that
+    /// field's largest value.
     static bool GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest);
-
-protected:
-    const Detail::SegmentWords& Words() const override;
-    bool IsNITF20() const noexcept override { return true; }
-    bool IsOverflowType(std::string_view aType) const noexcept override;
+    static const Layout& GetLayout() noexcept;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,12 +1,9 @@
 #include "segments/des/NITF21DESSubheader.h"
 
-#include "fields/FieldTable.h"
-#include "fields/FieldWalk.h"
 #include "foundation/detail/Ascii.h"
+#include "segments/des/detail/DesCheck.h"
 #include "segments/detail/SecurityRows.h"
-#include "segments/detail/SegmentWords.h"
-
-#include <utility>
+#include "segments/detail/SegmentLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -16,14 +13,21 @@ using namespace Detail;
 using enum Detail::Need;
 using enum Detail::Form;
 
+/// Writers put blanks before the identifier too.
+bool IsOverflow(const WalkContext& aContext)
+{
+    return Trimmed(aContext.Text("DESID")) == NITFCnst::DES_DESID_TRE_OVERFLOW;
+}
+
 // MIL-STD-2500C, table A-8.
 // clang-format off
-constexpr FieldRow ROWS[] = {
+constexpr FieldRow HEAD[] = {
     Field("DE",       2, Required,        Text,        "DE", "", "File Part Type [DE]"),
     Field("DESID",   25, Required,        Text,        "", "", "Unique DES Type Identifier").Locked(),
     Field("DESVER",   2, Required,        Digits,      "01..99", "", "Version of the Data Definition [01-99]").Locked(),
-    ORMO_SECURITY_ROWS_21("DECLAS", "DESCLAS", "DES", "DES", Ecs),
-    When("DESID", "TRE_OVERFLOW"),
+};
+constexpr FieldRow BODY[] = {
+    WhenBy("DESID is TRE_OVERFLOW", IsOverflow),
         Field("DESOFLW",  6, Conditional,     Text,        "XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID", "", "DES Overflowed Header Type [XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID]").Locked(),
         Field("DESITEM",  3, Conditional,     Digits,      "000..999", "", "DES Data Item Overflowed [000-999]").Locked(),
     End(),
@@ -33,44 +37,39 @@ constexpr FieldRow ROWS[] = {
     End(),
 };
 // clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
+// Others spell the first tag as the prefix has it.
+constexpr auto DES_SECURITY = [] {
+    auto list = JoinRows(SECURITY_21<"DECLAS", "DES", "DES">);
+    list.rows[0].alias = "DESCLAS";
+    return list;
+}();
+constexpr auto ROWS = JoinRows(HEAD, DES_SECURITY.rows, BODY);
+constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
-static_assert(FixedWidth(ROWS) == 200);
+static_assert(FixedWidth(ROWS.rows) == 200);
 
-constexpr SegmentWords WORDS = DesWords(
-    "NITF21DESSubheader",
-    "ERROR: Failed to get all the NITF 2.1 DES subheader field values from the input DES subheader data stream.");
+constexpr NITFFieldSegment::Layout LAYOUT{
+    .className = "NITF21DESSubheader",
+    .source = "NITF21DESSubheader::InitNITF21DESSubheader",
+    .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, NITFCnst::NITF_VERSION_NUMBER_21),
+    .words = &DES_WORDS,
+    .table = TABLE.View(),
+    .summary =
+        "ERROR: Failed to get all the NITF 2.1 DES subheader field values from the input DES subheader data stream.",
+    .check = &CheckDesSegment};
 
 }  // namespace
 
-NITF21DESSubheader::NITF21DESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                       const char* aVersionText, std::shared_ptr<const Detail::ByteSource> aSource,
-                                       Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly)
-    : NITFDESSubheader(aVersionText, Table())
-{
-    InitNITFDES(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
-                "NITF21DESSubheader::InitNITF21DESSubheader");
-}
-
-const Detail::FieldTable& NITF21DESSubheader::Table() noexcept
-{
-    static constexpr FieldTable table = TABLE.View();
-    return table;
-}
+NITF21DESSubheader::NITF21DESSubheader(Input& aInput) : NITFDESSubheader(LAYOUT, aInput) {}
 
 bool NITF21DESSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(LAYOUT.table, Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
-const Detail::SegmentWords& NITF21DESSubheader::Words() const
+const NITFFieldSegment::Layout& NITF21DESSubheader::GetLayout() noexcept
 {
-    return WORDS;
-}
-
-bool NITF21DESSubheader::IsOverflowType(std::string_view aType) const noexcept
-{
-    return Detail::Trimmed(aType) == NITFCnst::DES_DESID_TRE_OVERFLOW;
+    return LAYOUT;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,6 +1,5 @@
 #include "segments/des/NITFDESSubheader.h"
 
-#include "fields/FieldWalk.h"
 #include "fields/FieldXml.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
@@ -11,16 +10,12 @@
 #include "segments/des/DesDESSHF.h"
 #include "segments/des/SupportedDESDATAs.h"
 #include "segments/des/SupportedDESSHFs.h"
+#include "segments/des/detail/DesCheck.h"
+#include "segments/des/detail/DesParts.h"
 #include "segments/des/detail/XmlProduct.h"
-#include "segments/detail/Findings.h"
-#include "segments/detail/SegmentContents.h"
-#include "segments/detail/SegmentData.h"
-#include "segments/detail/SegmentWords.h"
+#include "segments/detail/SegmentLayout.h"
 #include "tre/detail/TreArea.h"
 
-#include <algorithm>
-#include <array>
-#include <mutex>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM {
@@ -28,27 +23,6 @@ namespace ORMO::SensorModel::CSM {
 namespace {
 
 constexpr const char* MISSING_FIELD = "ERROR: Failed to retrieve required field from the DES metadata store.";
-
-/// What DESOFLW says: which area of which kind of segment ran over.
-struct OverflowArea
-{
-    std::string_view word;
-    std::string_view area;
-    NITFCnst::DataSegmentType kind;
-    NITFCnst::DataSegmentType kindIn20;
-};
-
-constexpr auto NO_KIND = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
-constexpr std::array<OverflowArea, 8> OVERFLOW_AREAS{{
-    {"IXSHD", "IXSHD", NITFCnst::DATA_SEGMENT_TYPE_IMAGE, NITFCnst::DATA_SEGMENT_TYPE_IMAGE},
-    {"UDID", "UDID", NITFCnst::DATA_SEGMENT_TYPE_IMAGE, NITFCnst::DATA_SEGMENT_TYPE_IMAGE},
-    {"SXSHD", "SXSHD", NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC, NITFCnst::DATA_SEGMENT_TYPE_SYMBOL},
-    {"LXSHD", "LXSHD", NO_KIND, NITFCnst::DATA_SEGMENT_TYPE_LABEL},
-    {"LSXHD", "LXSHD", NO_KIND, NITFCnst::DATA_SEGMENT_TYPE_LABEL},  // as MIL-STD-2500A prints it once
-    {"TXSHD", "TXSHD", NITFCnst::DATA_SEGMENT_TYPE_TEXT, NITFCnst::DATA_SEGMENT_TYPE_TEXT},
-    {"UDHD", "UDHD", NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER},
-    {"XHD", "XHD", NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER},
-}};
 
 std::string InvalidValue(const char* aField)
 {
@@ -60,25 +34,73 @@ std::string InvalidValue(const char* aField)
 /// The data cut into fields, or why they cannot be.
 struct NITFDESSubheader::TypedData
 {
-    std::mutex guard;
-    bool tried = false;
-    std::unique_ptr<DesDESDATA> fields;
-    std::string fault;
+    struct Fields
+    {
+        std::unique_ptr<DesDESDATA> fields;
+        std::string fault;
+    };
+
+    Detail::Lazy<Fields> made;
 };
 
-NITFDESSubheader::NITFDESSubheader(const char* aVersionText, const Detail::FieldTable& aTable)
-    : NITFDataSegment(aVersionText, NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aTable),
-      m_typedData(std::make_shared<TypedData>())
+NITFDESSubheader::NITFDESSubheader(const Layout& aLayout, Input& aInput)
+    : NITFDataSegment(aLayout, aInput), m_typedData(std::make_shared<TypedData>())
+{
+    // The rows tell which types carry overflow: these fields stand in no other.
+    m_isOverflow = FieldText("DESOFLW").data() != nullptr;
+    m_isStreaming = GetDESTypeID() == NITFCnst::DES_DESID_STREAMING_FILE_HEADER;
+    if (!m_isOverflow) {
+        InitDESSHF(aInput);
+        FinishReading(aInput);
+        return;
+    }
+    std::string errors = LinkFault();
+    m_hasTarget = errors.empty();
+    if (!m_hasTarget) {
+        Finding finding =
+            Inside().About("WARN: The overflow DES does not say whose TREs it carries, so they stay on it.", "DESITEM");
+        finding.field.clear();
+        finding.value.clear();
+        finding.detail =
+            "DESOFLW is " + Detail::Shown(FieldText("DESOFLW")) + ", DESITEM is " + Detail::Shown(FieldText("DESITEM"));
+        aInput.Findings().Add(std::move(finding));
+    }
+    if (GetSegmentDataSize() == 0) {
+        Detail::AppendBlock(errors, "ERROR: Input TRE data string is NULL or an empty string.");
+        aInput.Findings().Add(Detail::MakeFinding("WARN: The overflow DES has no data."));
+    } else {
+        Detail::AppendBlock(errors, InitOverflowTREs(aInput));
+    }
+    // That the TREs stay where they are is no error of the file's reading, but one of this segment.
+    FinishReading(aInput);
+    SetMessages(errors, GetWarningMessage());
+}
+
+NITFDESSubheader::NITFDESSubheader(const NITFDESSubheader& aOther)
+    : NITFDataSegment(aOther),
+      m_isOverflow(aOther.m_isOverflow),
+      m_isStreaming(aOther.m_isStreaming),
+      m_hasTarget(aOther.m_hasTarget),
+      m_targetKind(aOther.m_targetKind),
+      m_targetIndex(aOther.m_targetIndex),
+      m_targetArea(aOther.m_targetArea),
+      m_carried(aOther.GetOverflowTREs()),  // a copy has TREs of its own, whoever owns those of the other one
+      m_subheader(aOther.m_subheader),
+      m_typedData(aOther.m_typedData)
 {
 }
 
-NITFDESSubheader::NITFDESSubheader(const NITFDESSubheader& aOther) = default;
+const TREStore& NITFDESSubheader::GetOverflowTREs() const noexcept
+{
+    return m_owner == nullptr ? m_carried : m_owner->GetOverflowTREStore();
+}
+
 NITFDESSubheader::~NITFDESSubheader() = default;
 
 bool NITFDESSubheader::operator==(const NITFStdDataSegment& aOther) const
 {
     const auto* const other = dynamic_cast<const NITFDESSubheader*>(&aOther);
-    return other != nullptr && NITFDataSegment::operator==(aOther) && m_carried == other->m_carried;
+    return other != nullptr && NITFDataSegment::operator==(aOther) && GetOverflowTREs() == other->GetOverflowTREs();
 }
 
 bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
@@ -87,7 +109,7 @@ bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
     if (other == nullptr) {
         return false;
     }
-    TREStore carried(other->m_carried);
+    TREStore carried(other->GetOverflowTREs());
     if (!NITFDataSegment::CloneObj(aOther)) {
         return false;
     }
@@ -95,6 +117,7 @@ bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
     m_isOverflow = other->m_isOverflow;
     m_isStreaming = other->m_isStreaming;
     m_hasTarget = other->m_hasTarget;
+    m_owner = nullptr;
     m_targetKind = other->m_targetKind;
     m_targetIndex = other->m_targetIndex;
     m_targetArea = other->m_targetArea;
@@ -113,17 +136,13 @@ void NITFDESSubheader::Swap(NITFStdDataSegment& aOther) noexcept
     std::swap(m_isOverflow, other->m_isOverflow);
     std::swap(m_isStreaming, other->m_isStreaming);
     std::swap(m_hasTarget, other->m_hasTarget);
+    std::swap(m_owner, other->m_owner);
     std::swap(m_targetKind, other->m_targetKind);
     std::swap(m_targetIndex, other->m_targetIndex);
     std::swap(m_targetArea, other->m_targetArea);
     std::swap(m_carried, other->m_carried);
     std::swap(m_subheader, other->m_subheader);
     std::swap(m_typedData, other->m_typedData);
-}
-
-std::string NITFDESSubheader::FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const
-{
-    return aResult.fault == Detail::Fault::Short ? std::string() : InvalidValue(aTag.c_str());
 }
 
 const char* NITFDESSubheader::TreRefusal() const noexcept
@@ -133,35 +152,8 @@ const char* NITFDESSubheader::TreRefusal() const noexcept
 
 std::string NITFDESSubheader::GetDESTypeID() const
 {
-    return std::string(Detail::Trimmed(FieldText(IsNITF20() ? "DESTAG" : "DESID")));
-}
-
-void NITFDESSubheader::InitNITFDES(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                   std::shared_ptr<const Detail::ByteSource> aSource,
-                                   Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly, const char* aReader)
-{
-    ReadSubheader(aRaw, aLength, aInfo, std::move(aSource), "NITFDESSubheader::InitNITFDES", aReader);
-    const std::string type = GetDESTypeID();
-    m_isOverflow = IsOverflowType(type);
-    m_isStreaming = type == NITFCnst::DES_DESID_STREAMING_FILE_HEADER;
-    if (!m_isOverflow) {
-        InitDESSHF();
-        return;
-    }
-    const std::string fault = LinkFault();
-    m_hasTarget = fault.empty();
-    if (!m_hasTarget) {
-        AddFault(fault, "WARN: The overflow DES at byte offset " + std::to_string(FileOffset()) +
-                            " does not say whose TREs it carries, so they stay on it.\n" + PlaceOf("DESOFLW") + "\n" +
-                            PlaceOf("DESITEM"));
-    }
-    InitOverflowTREs(aSpecificOnly, aByteOrder);
-}
-
-void NITFDESSubheader::AddFault(const std::string& aError, const std::string& aWarning)
-{
-    AddError(aError);
-    AddWarning(aWarning);
+    // The name of the type is the second field of the subheader in both versions: DESTAG, DESID.
+    return std::string(Detail::Trimmed(FieldText((*GetAllFieldTags())[1])));
 }
 
 std::string NITFDESSubheader::LinkFault()
@@ -170,13 +162,12 @@ std::string NITFDESSubheader::LinkFault()
     if (word.empty()) {
         return MISSING_FIELD;
     }
-    const auto* const area = std::find_if(OVERFLOW_AREAS.begin(), OVERFLOW_AREAS.end(),
-                                          [word](const OverflowArea& aArea) { return aArea.word == word; });
-    m_targetKind = area == OVERFLOW_AREAS.end() ? NO_KIND : IsNITF20() ? area->kindIn20 : area->kind;
-    if (m_targetKind == NO_KIND) {
+    const Detail::AreaOfKind target = Detail::FindArea(word, Inside().layout->kind->version);
+    if (target.kind == nullptr) {
         return InvalidValue("DESOFLW");
     }
-    m_targetArea = area->area;
+    m_targetKind = target.kind->kind;
+    m_targetArea = target.area->area;
     std::int64_t item = 0;
     if (!Detail::ToWholeNumber(Detail::Trimmed(FieldText("DESITEM")), item) || item < 0) {
         return InvalidValue("DESITEM");
@@ -195,31 +186,31 @@ bool NITFDESSubheader::GetOverflowTarget(NITFCnst::DataSegmentType& aKind, long&
     return m_hasTarget;
 }
 
-void NITFDESSubheader::InitOverflowTREs(bool aSpecificOnly, Util::CSMCnst::ByteOrder aByteOrder)
+std::string NITFDESSubheader::InitOverflowTREs(Input& aInput)
 {
-    if (Data().Size() == 0) {
-        AddFault("ERROR: Input TRE data string is NULL or an empty string.",
-                 "WARN: The overflow DES at byte offset " + std::to_string(FileOffset()) + " has no data.");
-        return;
-    }
     // Nothing of the data is kept but the TREs.
     std::string data;
-    if (!Data().Read(data)) {
-        AddError("ERROR: The TREs of the overflow DES are not available: " + Data().Fault() + ".");
-        return;
+    if (!ReadData(data)) {
+        const std::string text = "The TREs of the overflow DES are not available: " + DataFault() + '.';
+        aInput.Findings().Add(Detail::MakeFinding("WARN: " + text));
+        return "ERROR: " + text;
     }
-    const bool registered = m_targetArea == "UDHD" || m_targetArea == "UDID";
-    Detail::FindingList findings;
-    Detail::ExtractTREs(data, m_carried, {aSpecificOnly, false}, aByteOrder,
-                        {NITFCnst::DES_DESID_TRE_OVERFLOW, Data().Start(),
-                         registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION},
-                        findings);
-    if (!findings.IsEmpty()) {
-        AddWarning(findings.Blocks(false));
-    }
+    const Detail::AreaOfKind target = Detail::FindArea(m_targetArea, Inside().layout->kind->version);
+    const bool registered = target.area != nullptr && target.area->registered;
+    Detail::ExtractTREs(data, m_carried, {aInput.specificOnly, false}, aInput.byteOrder,
+                     {NITFCnst::DES_DESID_TRE_OVERFLOW, GetSegmentDataStart(),
+                      registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION},
+                     aInput.Findings());
+    return {};
 }
 
-void NITFDESSubheader::InitDESSHF()
+void NITFDESSubheader::PlaceOverflowTREs(NITFStdDataSegment& aOwner)
+{
+    aOwner.TakeOverflowTREs(m_carried);
+    m_owner = &aOwner;
+}
+
+void NITFDESSubheader::InitDESSHF(Input& aInput)
 {
     const std::string type = GetDESTypeID();
     const std::string_view fields = FieldText(NITFCnst::NITF_DES_FIELD_DESSHF);
@@ -234,52 +225,54 @@ void NITFDESSubheader::InitDESSHF()
         return;
     }
     // The DES is not lost: its subheader fields stay one field, as those of a type that nobody knows.
-    std::string reason(message == nullptr ? "" : message);
+    Finding finding = Inside().About(Finding::Level::Warning,
+                                     "WARN: The DESSHF does not fit the type of the DES and is kept as it stands.",
+                                     NITFCnst::NITF_DES_FIELD_DESSHF);
+    // Of the texts that the type has for it the last one says most.
+    const std::string_view reason = Detail::ViewOf(message);
+    finding.detail = reason.substr(reason.rfind("ERROR: ") == std::string_view::npos ? 0 : reason.rfind("ERROR: ") + 7);
     Util::CSMUtilString::DeleteCString(message);
-    reason.erase(0, reason.rfind("ERROR: ") + std::string_view("ERROR: ").size());
-    AddWarning("WARN: The DESSHF of the DES at byte offset " + std::to_string(FileOffset()) +
-               " does not fit its type " + Detail::Quoted(type) + " and is kept as it stands: " + reason);
+    aInput.Findings().Add(std::move(finding));
 }
 
 const DesDESDATA* NITFDESSubheader::GetDESDATAFields(std::string* aErrors) const
 {
-    TypedData& typed = *m_typedData;
-    const std::lock_guard lock(typed.guard);
-    if (!typed.tried) {
+    const TypedData::Fields& typed = m_typedData->made.Get([this] {
+        TypedData::Fields fields;
         const std::string type = GetDESTypeID();
         std::string data;
         // Only the data of a known type are read at all.
         const bool known = SupportedDESDATAs::AbleToCreateDESDATA(type.c_str());
-        if (known && !Data().Read(data)) {
-            typed.fault = "ERROR: The data of the DES are not available: " + Data().Fault() + ".";
-        } else {
-            DesDESDATA* made = nullptr;
-            char* message = nullptr;
-            SupportedDESDATAs::CreateDESDATA(type.c_str(), known ? data.data() : "", known ? data.size() : 1, &made,
-                                             &message);
-            typed.fields.reset(made);
-            typed.fault = message == nullptr ? "" : message;
-            Util::CSMUtilString::DeleteCString(message);
+        if (known && !ReadData(data)) {
+            fields.fault = "ERROR: The data of the DES are not available: " + DataFault() + ".";
+            return fields;
         }
-        typed.tried = true;
-    }
+        DesDESDATA* made = nullptr;
+        char* message = nullptr;
+        SupportedDESDATAs::CreateDESDATA(type.c_str(), known ? data.data() : "", known ? data.size() : 1, &made,
+                                         &message);
+        fields.fields.reset(made);
+        fields.fault = message == nullptr ? "" : message;
+        Util::CSMUtilString::DeleteCString(message);
+        return fields;
+    });
     if (typed.fields == nullptr && aErrors != nullptr) {
         Detail::AppendBlock(*aErrors, typed.fault);
     }
     return typed.fields.get();
 }
 
+bool NITFDESSubheader::GetDataField(std::string_view aName, const char*& aValue, std::size_t& aLength) const
+{
+    return aName == NITFCnst::NITF_DES_FIELD_DESDATA && GetData(aValue, aLength, nullptr);
+}
+
 bool NITFDESSubheader::GetXmlProduct(DesXmlProduct& aProduct) const
 {
-    if (GetDESTypeID() != SupportedDESSHFs::XML_DATA_CONTENT) {
+    std::string front;
+    if (GetDESTypeID() != SupportedDESSHFs::XML_DATA_CONTENT || !ReadDataFront(Detail::MOST_XML_READ, front)) {
         return false;
     }
-    std::string front;
-    // Ends early, which is no fault, once the front is there.
-    (void)Data().ForEachPiece([&front](std::string_view aPiece) {
-        front += aPiece;
-        return front.size() < Detail::MOST_XML_READ;
-    });
     aProduct = {};
     return Detail::RecogniseXmlProduct(front, aProduct);
 }
@@ -291,13 +284,14 @@ std::string_view NITFDESSubheader::FieldLeftOut() const noexcept
 
 void NITFDESSubheader::AppendDataElements(std::string& aXml) const
 {
-    const Detail::FieldStore& fields = Contents().fields;
+    const Detail::FieldStore& fields = Inside().record.Store();
+    const Detail::SegmentWords& words = *Inside().layout->words;
     const Detail::FieldEntry* const entry = fields.Find(FieldLeftOut());
     if (m_subheader != nullptr && entry != nullptr) {
-        const std::string indent = Words().indent;
+        const std::string indent = words.indent;
         const char* const element = NITFCnst::XML_ELEMENT_DES_CMPLX_FIELD;
         aXml += indent + '<' + element;
-        Detail::AppendFieldAttributes(fields, *entry, Words().naming, fields.Entries().size(), aXml);
+        Detail::AppendFieldAttributes(fields, *entry, words.naming, fields.Entries().size(), aXml);
         aXml += ">\n";
         m_subheader->AppendXml(aXml, (indent + "  ").c_str(), NITFCnst::XML_ELEMENT_DESSHF_FIELD);
         aXml += indent + "</" + element + ">\n";
@@ -305,47 +299,60 @@ void NITFDESSubheader::AppendDataElements(std::string& aXml) const
     AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aXml);
 }
 
-void NITFDESSubheader::Validate(Detail::Findings& aFindings) const
-{
-    NITFDataSegment::Validate(aFindings);
-    if (!m_isOverflow) {
-        ValidateTypedFields(aFindings);
-        return;
-    }
-    // NITF 2.0 leaves the version of its overflow tags open; a conformance sample has 99.
-    if (!IsNITF20() && NumberOf(NITFCnst::NITF_DES_FIELD_DESVER) != 1) {
-        aFindings.AddError(CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, Words().owner, NITFCnst::NITF_DES_FIELD_DESVER,
-                           PlaceOf(NITFCnst::NITF_DES_FIELD_DESVER));
-    }
-    if (NumberOf("DESSHL") != 0) {
-        aFindings.AddError(CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, Words().owner, "DESSHL", PlaceOf("DESSHL"));
-    }
-}
+namespace {
 
-void NITFDESSubheader::ValidateTypedFields(Detail::Findings& aFindings) const
+void CheckTypedFields(const NITFDESSubheader& aDes, Detail::FindingList& aFindings)
 {
-    if (m_subheader == nullptr) {
+    const DesDESSHF* const subheader = aDes.GetDESSHF();
+    if (subheader == nullptr) {
         return;
     }
-    std::string lines;
-    m_subheader->ValidateFieldValues(lines);
-    aFindings.AddErrors(lines);
-    const std::string type = GetDESTypeID();
-    if (!IsDataAvailable() || !SupportedDESDATAs::AbleToCreateDESDATA(type.c_str())) {
+    Finding place = aDes.Inside().About(Finding::Level::Error, "", NITFCnst::NITF_DES_FIELD_DESSHF);
+    place.owner = subheader->GetUniqueDESTypeID();
+    place.field.clear();
+    place.value.clear();
+    DesFieldSet::Parts::Of(*subheader).fields.Check(place, aFindings);
+    if (!aDes.IsDataAvailable() || !SupportedDESDATAs::AbleToCreateDESDATA(aDes.GetDESTypeID().c_str())) {
         return;
     }
     std::string fault;
-    const DesDESDATA* const data = GetDESDATAFields(&fault);
+    const DesDESDATA* const data = aDes.GetDESDATAFields(&fault);
+    place.offset = aDes.GetSegmentDataStart();
     if (data == nullptr) {
-        aFindings.AddError(fault);
+        place.sentence = "ERROR: The data of the DES do not fit its type.";
+        place.detail = fault;
+        aFindings.Add(std::move(place));
         return;
     }
-    lines.clear();
-    data->ValidateFieldValues(lines);
-    aFindings.AddErrors(lines);
-    const std::string disagreement = data->CheckAgainst(*m_subheader);
+    DesFieldSet::Parts::Of(*data).fields.Check(place, aFindings);
+    const std::string disagreement = data->CheckAgainst(*subheader);
     if (!disagreement.empty()) {
-        aFindings.AddError("ERROR: The data of the DES do not agree with its subheader fields: " + disagreement);
+        place.sentence = "ERROR: The data of the DES do not agree with its subheader fields: " + disagreement;
+        aFindings.Add(std::move(place));
+    }
+}
+
+}  // namespace
+
+void Detail::CheckDesSegment(const NITFFieldSegment& aSegment, FindingList& aFindings)
+{
+    const auto& des = dynamic_cast<const NITFDESSubheader&>(aSegment);
+    const NITFFieldSegment::Parts& parts = des.Inside();
+    if (!des.IsTREOverflow()) {
+        CheckTypedFields(des, aFindings);
+        return;
+    }
+    // NITF 2.0 leaves the version of its overflow tags open; a conformance sample has 99.
+    const bool is20 = parts.layout->kind->version == NITFCnst::NITF_VERSION_NUMBER_20;
+    if (!is20 && parts.Number(NITFCnst::NITF_DES_FIELD_DESVER) != 1) {
+        aFindings.Add(parts.About(Finding::Level::Error, CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE,
+                                  NITFCnst::NITF_DES_FIELD_DESVER));
+    }
+    if (parts.Number("DESSHL") != 0) {
+        aFindings.Add(parts.About(Finding::Level::Error, CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, "DESSHL"));
+    }
+    if (!des.IsOverflowPlaced()) {
+        CheckTREs(des.GetOverflowTREs(), aFindings);
     }
 }
 

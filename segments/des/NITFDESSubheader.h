@@ -33,8 +33,9 @@ public:
     /// extension area ("IXSHD"). Whether the file has such a segment is not looked at. False for any other DES and when
     /// DESOFLW or DESITEM do not say; what was wrong stood in the messages after construction.
     bool GetOverflowTarget(NITFCnst::DataSegmentType& aKind, long& aIndex, std::string& aArea) const;
-    /// The TREs of an overflow DES, in order of appearance; empty for any other DES.
-    const TREStore& GetOverflowTREs() const noexcept { return m_carried; }
+    /// The TREs of an overflow DES, in order of appearance; empty for any other DES. Once they were handed over, all
+    /// overflow TREs of the segment that has them.
+    const TREStore& GetOverflowTREs() const noexcept;
     /// DESDATA, read when first asked for; it belongs to the segment. False, with the reason appended to `aErrors` when
     /// that is given, when it is not all in the file.
     bool GetDESDATA(const char*& aData, std::size_t& aLength, std::string* aErrors = nullptr) const
@@ -50,51 +51,45 @@ public:
     /// document is read anew each time.
     bool GetXmlProduct(DesXmlProduct& aProduct) const;
 
+    /// Whether the TREs of an overflow DES were handed over to the segment that they belong to.
+    bool IsOverflowPlaced() const noexcept { return m_owner != nullptr; }
+    /// Hands the TREs of an overflow DES over to their owner. The DES still answers from them as long as the owner
+    /// lives.
+    void PlaceOverflowTREs(NITFStdDataSegment& aOwner);
+
 protected:
-    NITFDESSubheader(const char* aVersionText, const Detail::FieldTable& aTable);
+    NITFDESSubheader(const Layout& aLayout, Input& aInput);
     NITFDESSubheader(const NITFDESSubheader& aOther);
 
     using NITFDataSegment::operator=;
     bool operator==(const NITFStdDataSegment& aOther) const override;
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
-    std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;
-    const char* KindWord() const noexcept override { return "DES"; }
     const char* TreRefusal() const noexcept override;
-    const TREStore& QueriedTREs() const noexcept override { return m_carried; }
+    const TREStore& QueriedTREs() const noexcept override { return GetOverflowTREs(); }
+    bool GetDataField(std::string_view aName, const char*& aValue, std::size_t& aLength) const override;
     void AppendDataElements(std::string& aXml) const override;
-    void Validate(Detail::Findings& aFindings) const override;
-
-    virtual bool IsNITF20() const noexcept = 0;
-    /// Whether a DES of that type carries overflow.
-    virtual bool IsOverflowType(std::string_view aType) const noexcept = 0;
-
-    /// Reads the fields, and of an overflow DES the link and the TREs.
-    void InitNITFDES(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                     std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
-                     bool aSpecificOnly, const char* aReader);
-
     std::string_view FieldLeftOut() const noexcept override;
 
 private:
     struct TypedData;
 
-    void InitDESSHF();
-    void ValidateTypedFields(Detail::Findings& aFindings) const;
+    void InitDESSHF(Input& aInput);
     std::string LinkFault();
-    void InitOverflowTREs(bool aSpecificOnly, Util::CSMCnst::ByteOrder aByteOrder);
-    void AddFault(const std::string& aError, const std::string& aWarning);
+    /// The error text when the TREs cannot be had.
+    std::string InitOverflowTREs(Input& aInput);
 
     bool m_isOverflow = false;
     bool m_isStreaming = false;
     bool m_hasTarget = false;
+    NITFStdDataSegment* m_owner = nullptr;  ///< the segment that has the TREs now
     NITFCnst::DataSegmentType m_targetKind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
     long m_targetIndex = -1;
     std::string m_targetArea;
     TREStore m_carried;
     // Neither changes once it is made, so copies of a segment share them.
     std::shared_ptr<const DesDESSHF> m_subheader;
-    std::shared_ptr<TypedData> m_typedData;
+    std::shared_ptr<const TypedData> m_typedData;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -4,7 +4,6 @@
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
 #include "foundation/CSMMsg.h"
-#include "segments/detail/Findings.h"
 
 #include <algorithm>
 #include <array>
@@ -22,10 +21,11 @@ struct TypeRule
 {
     std::string_view field;
     std::string_view types;
+    bool free = false;  ///< a text that may stand with any other type too
 };
 
 constexpr std::array<TypeRule, 5> TYPE_RULES{
-    {{"DCDT", "DD"}, {"DCXM", "X"}, {"DG", "GD|GE"}, {"DGDT", "GD"}, {"CLTX", "DE|GE"}}};
+    {{"DCDT", "DD"}, {"DCXM", "X"}, {"DG", "GD|GE"}, {"DGDT", "GD"}, {"CLTX", "DE|GE", true}}};
 
 constexpr std::string_view KNOWN_TYPES = "DD|DE|GD|GE|O|X";
 
@@ -47,23 +47,22 @@ std::string Prefix(const FieldStore& aFields)
 
 }  // namespace
 
-void CheckSecurity(const FieldStore& aFields, std::string_view aOwner, std::uint64_t aFileOffset, Findings& aFindings)
+void CheckSecurity(const NITFFieldSegment::Parts& aHeader, FindingList& aFindings)
 {
-    const std::string prefix = Prefix(aFields);
+    const std::string prefix = Prefix(aHeader.record.Store());
     if (prefix.empty()) {
         return;
     }
     const auto value = [&](std::string_view aField) {
-        bool found = false;
-        return TrimBlanks(aFields.Find(prefix + std::string(aField), found));
+        return TrimBlanks(aHeader.record.Text(prefix + std::string(aField)));
     };
-    const auto place = [&](std::string_view aField) {
-        const FieldEntry* const entry = aFields.Find(prefix + std::string(aField));
-        return entry == nullptr ? std::string()
-                                : "[byte offset " + std::to_string(aFileOffset + aFields.Position(*entry)) +
-                                      "; type of declassification " + Shown(value(DECLASSIFICATION)) + "]";
+    const auto add = [&](Finding::Level aLevel, const char* aSentence, std::string_view aField, std::string aWhy) {
+        Finding finding = aHeader.About(aLevel, aSentence, prefix + std::string(aField));
+        finding.detail = std::move(aWhy);
+        aFindings.Add(std::move(finding));
     };
     const std::string_view type = value(DECLASSIFICATION);
+    const std::string typeText = "with the type of declassification " + Shown(type);
     const bool known = type.empty() || IsListed(type, KNOWN_TYPES);  // else that alone is the fault
     for (const TypeRule& rule : TYPE_RULES) {
         if (!known) {
@@ -71,18 +70,17 @@ void CheckSecurity(const FieldStore& aFields, std::string_view aOwner, std::uint
         }
         const bool wanted = !type.empty() && IsListed(type, rule.types);
         const bool filled = !value(rule.field).empty();
-        const std::string field = prefix + std::string(rule.field);
         if (wanted && !filled) {
-            aFindings.AddError(CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD, aOwner, field, place(rule.field));
-        } else if (filled && !wanted) {
-            aFindings.AddWarning(CSMMsg::Warn::FIELD_VALUE_OUT_OF_VALID_RANGE, aOwner, field, place(rule.field));
+            add(Finding::Level::Error, CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD, rule.field, typeText);
+        } else if (filled && !wanted && !rule.free) {
+            add(Finding::Level::Warning, CSMMsg::Warn::FIELD_VALUE_OUT_OF_VALID_RANGE, rule.field, typeText);
         }
     }
     const auto* const filled = std::find_if(OF_A_SYSTEM.begin(), OF_A_SYSTEM.end(),
                                             [&](std::string_view aField) { return !value(aField).empty(); });
     if (value(SYSTEM).empty() && filled != OF_A_SYSTEM.end()) {
-        aFindings.AddError(CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD, aOwner, prefix + std::string(SYSTEM),
-                           "[" + prefix + std::string(*filled) + " is filled]");
+        add(Finding::Level::Error, CSMMsg::Error::MISSING_CONDITIONALLY_REQUIRED_FIELD, SYSTEM,
+            prefix + std::string(*filled) + " is filled");
     }
 }
 

@@ -1,42 +1,92 @@
 #pragma once
 
-// The security block of a header: the same rows in every header of a version, with the header's own prefix. Each use
-// pastes the prefix into the tags, which only the preprocessor can do at compile time.
+#include "fields/FieldRow.h"
+#include "fields/RowList.h"
 
-/// NITF 2.1, 167 bytes (MIL-STD-2500C, table A-1 and its kin). The first tag is given whole, because the DES subheader
-/// spells it DECLAS, with the name that others give it or null; the form of the classification reason differs in the
-/// file header.
-#define ORMO_SECURITY_ROWS_21(aClas, aAlias, aPrefix, aTitle, aReasonForm)                                          \
-    Field(aClas, 1, Required, Ecs, "T|S|C|R|U", "", aTitle " Security Classification [T|S|C|R|U]").Alias(aAlias),   \
-        Field(aPrefix "CLSY", 2, RequiredBlank, Ecs, "", "",                                                        \
-              aTitle " Security Classification System [FIPS 10-4 country code|XN]"),                                \
-        Field(aPrefix "CODE", 11, RequiredBlank, Ecs, "", "", aTitle " Codewords"),                                 \
-        Field(aPrefix "CTLH", 2, RequiredBlank, Ecs, "", "", aTitle " Control and Handling"),                       \
-        Field(aPrefix "REL", 20, RequiredBlank, Ecs, "", "", aTitle " Releasing Instructions"),                     \
-        Field(aPrefix "DCTP", 2, RequiredBlank, Ecs, "DD|DE|GD|GE|O|X", "",                                         \
-              aTitle " Declassification Type [DD|DE|GD|GE|O|X]"),                                                   \
-        Field(aPrefix "DCDT", 8, RequiredBlank, Ecs, "{CCYYMMDD}", "", aTitle " Declassification Date {CCYYMMDD}"), \
-        Field(aPrefix "DCXM", 4, RequiredBlank, Ecs, "X1..X8|X251..X259|any=code of a later profile", "",           \
-              aTitle " Declassification Exemption [X1-X8|X251-X259]"),                                              \
-        Field(aPrefix "DG", 1, RequiredBlank, Ecs, "S|C|R", "", aTitle " Downgrade [S|C|R]"),                       \
-        Field(aPrefix "DGDT", 8, RequiredBlank, Ecs, "{CCYYMMDD}", "", aTitle " Downgrade Date {CCYYMMDD}"),        \
-        Field(aPrefix "CLTX", 43, RequiredBlank, Ecs, "", "", aTitle " Classification Text"),                       \
-        Field(aPrefix "CATP", 1, RequiredBlank, Ecs, "O|D|M", "", aTitle " Classification Authority Type [O|D|M]"), \
-        Field(aPrefix "CAUT", 40, RequiredBlank, Ecs, "", "", aTitle " Classification Authority"),                  \
-        Field(aPrefix "CRSN", 1, RequiredBlank, aReasonForm, "A|B|C|D|E|F|G", "",                                   \
-              aTitle " Classification Reason [A-G]"),                                                               \
-        Field(aPrefix "SRDT", 8, RequiredBlank, Ecs, "{CCYYMMDD}", "", aTitle " Security Source Date {CCYYMMDD}"),  \
-        Field(aPrefix "CTLN", 15, RequiredBlank, Ecs, "", "", aTitle " Security Control Number")
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+// Rows that stand in every header of a version: the security block with the header's own prefix, and the extension
+// areas.
+namespace ORMO::SensorModel::CSM::Detail {
+
+/// A text that can be an argument of a template.
+template<std::size_t N>
+struct Literal
+{
+    char text[N]{};
+    constexpr Literal(const char (&aText)[N]) noexcept { std::copy_n(aText, N, text); }
+};
+
+template<Literal FIRST, Literal SECOND>
+struct JoinedLiteral
+{
+    static constexpr auto VALUE = [] {
+        std::array<char, sizeof FIRST.text + sizeof SECOND.text - 1> text{};
+        std::copy_n(FIRST.text, sizeof FIRST.text - 1, text.begin());
+        std::copy_n(SECOND.text, sizeof SECOND.text, text.begin() + sizeof FIRST.text - 1);
+        return text;
+    }();
+};
+
+/// Two texts put together when the table is compiled: Join<"FS", "CLSY">.
+template<Literal FIRST, Literal SECOND>
+inline constexpr const char* Join = JoinedLiteral<FIRST, SECOND>::VALUE.data();
+
+// clang-format off
+
+/// NITF 2.1, 167 bytes (MIL-STD-2500C, table A-1 and its kin). The first tag is given whole, because the DES and RES
+/// subheaders spell it in their own ways; the form of the classification reason differs in the file header.
+template<Literal CLAS, Literal PREFIX, Literal TITLE, Form REASON = Form::Ecs>
+inline constexpr FieldRow SECURITY_21[] = {
+    Field(CLAS.text,              1, Need::Required,      Form::Ecs, "T|S|C|R|U", "", Join<TITLE, " Security Classification [T|S|C|R|U]">),
+    Field(Join<PREFIX, "CLSY">,   2, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Security Classification System [FIPS 10-4 country code|XN]">),
+    Field(Join<PREFIX, "CODE">,  11, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Codewords">),
+    Field(Join<PREFIX, "CTLH">,   2, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Control and Handling">),
+    Field(Join<PREFIX, "REL">,   20, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Releasing Instructions">),
+    Field(Join<PREFIX, "DCTP">,   2, Need::RequiredBlank, Form::Ecs, "DD|DE|GD|GE|O|X", "", Join<TITLE, " Declassification Type [DD|DE|GD|GE|O|X]">),
+    Field(Join<PREFIX, "DCDT">,   8, Need::RequiredBlank, Form::Ecs, "{CCYYMMDD}", "", Join<TITLE, " Declassification Date {CCYYMMDD}">),
+    Field(Join<PREFIX, "DCXM">,   4, Need::RequiredBlank, Form::Ecs, "X1..X8|X251..X259|any=code of a later profile", "", Join<TITLE, " Declassification Exemption [X1-X8|X251-X259]">),
+    Field(Join<PREFIX, "DG">,     1, Need::RequiredBlank, Form::Ecs, "S|C|R", "", Join<TITLE, " Downgrade [S|C|R]">),
+    Field(Join<PREFIX, "DGDT">,   8, Need::RequiredBlank, Form::Ecs, "{CCYYMMDD}", "", Join<TITLE, " Downgrade Date {CCYYMMDD}">),
+    Field(Join<PREFIX, "CLTX">,  43, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Classification Text">),
+    Field(Join<PREFIX, "CATP">,   1, Need::RequiredBlank, Form::Ecs, "O|D|M", "", Join<TITLE, " Classification Authority Type [O|D|M]">),
+    Field(Join<PREFIX, "CAUT">,  40, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Classification Authority">),
+    Field(Join<PREFIX, "CRSN">,   1, Need::RequiredBlank, REASON,    "A|B|C|D|E|F|G", "", Join<TITLE, " Classification Reason [A-G]">),
+    Field(Join<PREFIX, "SRDT">,   8, Need::RequiredBlank, Form::Ecs, "{CCYYMMDD}", "", Join<TITLE, " Security Source Date {CCYYMMDD}">),
+    Field(Join<PREFIX, "CTLN">,  15, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Security Control Number">),
+};
 
 /// NITF 2.0, 167 bytes, or 207 with the downgrading event, of which not even blanks stand otherwise (MIL-STD-2500A).
-#define ORMO_SECURITY_ROWS_20(aPrefix, aTitle)                                                                \
-    Field(aPrefix "CLAS", 1, Required, Text, "T|S|C|R|U", "", aTitle " Security Classification [T|S|C|R|U]"), \
-        Field(aPrefix "CODE", 40, Optional, Text, "", "", aTitle " Codewords"),                               \
-        Field(aPrefix "CTLH", 40, Optional, Text, "", "", aTitle " Control and Handling"),                    \
-        Field(aPrefix "REL", 40, Optional, Text, "", "", aTitle " Releasing Instructions"),                   \
-        Field(aPrefix "CAUT", 20, Optional, Text, "", "", aTitle " Classification Authority"),                \
-        Field(aPrefix "CTLN", 20, Optional, Text, "", "", aTitle " Security Control Number"),                 \
-        Field(aPrefix "DWNG", 6, Optional, Text, "{YYMMDD}|999998|999999", "",                                \
-              aTitle " Security Downgrade {YYMMDD}[999998|999999]"),                                          \
-        When(aPrefix "DWNG", "999998"),                                                                       \
-        Field(aPrefix "DEVT", 40, Conditional, Text, "", "", aTitle " Downgrading Event"), End()
+template<Literal PREFIX, Literal TITLE>
+inline constexpr FieldRow SECURITY_20[] = {
+    Field(Join<PREFIX, "CLAS">,   1, Need::Required, Form::Text, "T|S|C|R|U", "", Join<TITLE, " Security Classification [T|S|C|R|U]">),
+    Field(Join<PREFIX, "CODE">,  40, Need::Optional, Form::Text, "", "", Join<TITLE, " Codewords">),
+    Field(Join<PREFIX, "CTLH">,  40, Need::Optional, Form::Text, "", "", Join<TITLE, " Control and Handling">),
+    Field(Join<PREFIX, "REL">,   40, Need::Optional, Form::Text, "", "", Join<TITLE, " Releasing Instructions">),
+    Field(Join<PREFIX, "CAUT">,  20, Need::Optional, Form::Text, "", "", Join<TITLE, " Classification Authority">),
+    Field(Join<PREFIX, "CTLN">,  20, Need::Optional, Form::Text, "", "", Join<TITLE, " Security Control Number">),
+    Field(Join<PREFIX, "DWNG">,   6, Need::Optional, Form::Text, "{YYMMDD}|999998|999999", "", Join<TITLE, " Security Downgrade {YYMMDD}[999998|999999]">),
+    When(Join<PREFIX, "DWNG">, "999998"),
+        Field(Join<PREFIX, "DEVT">, 40, Need::Conditional, Form::Text, "", "", Join<TITLE, " Downgrading Event">),
+    End(),
+};
+
+/// An extension area: its length, which counts the overflow number too, the number of the DES with the rest of it, and
+/// its records. What the length may be comes from the standard.
+constexpr RowList<5> AreaRows(const char* aLength, const char* aRange, const char* aLengthLabel, const char* aOverflow,
+                              const char* aOverflowLabel, const char* aArea, const char* aAreaLabel) noexcept
+{
+    return {{
+        Field(aLength, 5, Need::Required, Form::Digits, aRange, "", aLengthLabel),
+        WhenPositive(aLength),
+            Field(aOverflow, 3, Need::Conditional, Form::Digits, "000..999", "", aOverflowLabel).Locked(),
+            Sized(aArea, aLength, -3, Need::Conditional, Form::Records, "", "", aAreaLabel),
+        End(),
+    }};
+}
+
+// clang-format on
+
+}  // namespace ORMO::SensorModel::CSM::Detail

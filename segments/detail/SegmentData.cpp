@@ -27,17 +27,31 @@ bool SegmentData::Read(std::string& aOut) const
     return IsAvailable() && m_source->Read(m_start, m_size, aOut);
 }
 
+bool SegmentData::ReadFront(std::uint64_t aMost, std::string& aOut) const
+{
+    return IsAvailable() && m_source->Read(m_start, std::min(m_size, aMost), aOut);
+}
+
+bool SegmentData::Equals(const SegmentData& aOther) const
+{
+    if (!IsAvailable() || !aOther.IsAvailable() || m_size != aOther.m_size) {
+        return false;
+    }
+    std::uint64_t done = 0;
+    std::string theirs;
+    return ForEachPiece([&](std::string_view aPiece) {
+        const bool read = aOther.m_source->Read(aOther.m_start + done, aPiece.size(), theirs);
+        done += aPiece.size();
+        return read && theirs == aPiece;
+    });
+}
+
 const std::string* SegmentData::Bytes() const
 {
-    const std::lock_guard lock(m_guard);
-    if (m_bytes == nullptr) {
-        std::string bytes;
-        if (!Read(bytes)) {
-            return nullptr;
-        }
-        m_bytes = std::make_unique<const std::string>(std::move(bytes));
-    }
-    return m_bytes.get();
+    return m_bytes.TryGet([this] {
+        auto bytes = std::make_unique<std::string>();
+        return Read(*bytes) ? std::unique_ptr<const std::string>(std::move(bytes)) : nullptr;
+    });
 }
 
 bool SegmentData::ForEachPiece(const std::function<bool(std::string_view)>& aReceive) const

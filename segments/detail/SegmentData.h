@@ -1,11 +1,11 @@
 #pragma once
 
 #include "fields/ByteSource.h"
+#include "foundation/detail/Lazy.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <string_view>
 
@@ -30,10 +30,21 @@ public:
     /// Why the data cannot be had; empty when they can.
     std::string Fault() const;
 
+    /// Whether both look at the same bytes of the same source.
+    bool IsSamePlace(const SegmentData& aOther) const noexcept
+    {
+        return m_source != nullptr && m_source == aOther.m_source && m_start == aOther.m_start &&
+               m_size == aOther.m_size;
+    }
+    /// Whether both have the same bytes, compared piece by piece. Data that cannot be had equal nothing.
+    [[nodiscard]] bool Equals(const SegmentData& aOther) const;
+
     /// All of the data, read once and kept; null, with nothing kept, when they cannot be had.
     const std::string* Bytes() const;
     /// The data for a single use: not kept.
     [[nodiscard]] bool Read(std::string& aOut) const;
+    /// The first bytes of the data, `aMost` of them when there are as many.
+    [[nodiscard]] bool ReadFront(std::uint64_t aMost, std::string& aOut) const;
     /// Hands the data over piece by piece, so that they never stand in memory as a whole. Every piece but the last is a
     /// multiple of three bytes long. Ends, with false, when reading fails or the receiver answers false.
     [[nodiscard]] bool ForEachPiece(const std::function<bool(std::string_view)>& aReceive) const;
@@ -42,8 +53,7 @@ private:
     std::shared_ptr<const ByteSource> m_source;
     std::uint64_t m_start;
     std::uint64_t m_size;
-    mutable std::mutex m_guard;
-    mutable std::unique_ptr<const std::string> m_bytes;
+    Lazy<std::string> m_bytes;
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail

@@ -29,16 +29,17 @@ public:
     bool operator==(const NITF20FileHeader& aOther) const { return NITFFileHeader::operator==(aOther); }
     bool operator!=(const NITF20FileHeader& aOther) const { return !(*this == aOther); }
 
-    static const Detail::FieldTable& Table() noexcept;
     /// The smallest and largest width of a field; false for an unknown tag. Widths given by another field are 0 to that
     /// field's largest value.
     static bool GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest);
-
-protected:
-    const Detail::SegmentWords& Words() const override;
-    std::uint64_t LeastLength(std::uint64_t aStandard) const noexcept override;
-    bool CheckVersionSpecificFields(std::string& aErrors) override;
-    void CheckFileHeaderVersion() const override;
+    /// A new copy of a raw header; the caller frees it with delete[]. Null for null or no bytes.
+    static char* CloneNITF20FileHeader(const char* aBytes, std::size_t aLength)
+    {
+        return CloneNITFFileHeader(aBytes, aLength);
+    }
+    static const Layout& GetLayout() noexcept;
+    /// Made by the reader of files.
+    explicit NITF20FileHeader(Input&& aInput);
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -28,17 +28,14 @@ public:
     bool operator==(const NITF21FileHeader& aOther) const { return NITFFileHeader::operator==(aOther); }
     bool operator!=(const NITF21FileHeader& aOther) const { return !(*this == aOther); }
 
-    static const Detail::FieldTable& Table() noexcept;
     /// The smallest and largest width of a field; false for an unknown tag. Widths given by another field are 0 to that
     /// field's largest value.
     static bool GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest);
     /// FVER.
     const char* GetFieldValueFVER() const noexcept { return GetFileHeaderField("FVER"); }
-
-protected:
-    const Detail::SegmentWords& Words() const override;
-    bool CheckVersionSpecificFields(std::string& aErrors) override;
-    void CheckFileHeaderVersion() const override;
+    static const Layout& GetLayout() noexcept;
+    /// Made by the reader of files.
+    explicit NITF21FileHeader(Input&& aInput);
 };
 
 }  // namespace ORMO::SensorModel::CSM

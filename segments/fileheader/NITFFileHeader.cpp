@@ -1,22 +1,16 @@
 #include "segments/fileheader/NITFFileHeader.h"
 
-#include "fields/FieldWalk.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "fields/ValueRule.h"
-#include "fields/Xml.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
-#include "segments/detail/SegmentContents.h"
-#include "segments/detail/SegmentKinds.h"
-#include "segments/detail/SegmentWords.h"
+#include "segments/detail/SegmentLayout.h"
 #include "segments/fileheader/detail/FileHeaderReader.h"
-#include "tre/TREFactory.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -29,7 +23,24 @@ namespace {
 constexpr std::size_t MOST_HEADER_BYTES = 999999;
 constexpr std::uint64_t LEAST_FILE_LENGTH = 39;
 constexpr std::uint64_t MOST_FILE_LENGTH = 999999999999;
+// The fewest data bytes behind the overflow number of NITF 2.1: the tag and length of one TRE and a byte of it.
+constexpr std::size_t LEAST_EXTENSION_BYTES = 12;
 constexpr const char* STREAM_ERROR = "ERROR: NITF file header data stream contains errors - ";
+
+bool Is20(const NITFFieldSegment::Parts& aParts) noexcept
+{
+    return aParts.layout->kind->version == NITFCnst::NITF_VERSION_NUMBER_20;
+}
+
+/// The input of a header of a possible length; raises else.
+NITFFieldSegment::Input& Checked(const NITFFieldSegment::Layout& aLayout, NITFFieldSegment::Input& aInput)
+{
+    if (aInput.raw.size() <= Detail::MOST_BYTES_REFUSED || aInput.raw.size() > MOST_HEADER_BYTES) {
+        aInput.Findings().Add(Detail::MakeFinding(Detail::NO_HEADER));
+        throw ImageSupportDataConstructionException(Detail::NO_HEADER, aLayout.source);
+    }
+    return aInput;
+}
 
 std::string TurnName(const char* aTag, std::size_t aTurn)
 {
@@ -38,20 +49,137 @@ std::string TurnName(const char* aTag, std::size_t aTurn)
     return aTag + number;
 }
 
+/// A conditional field that is not as it must be: the text of the field, and that of the walk that meets it.
+void AddConditionalFault(const NITFFieldSegment::Parts& aParts, const char* aTag, const std::string& aField,
+                         const std::string& aWhat, Detail::FindingList& aFindings)
+{
+    const Detail::SegmentWords& words = *aParts.layout->words;
+    const Finding finding = aParts.About(STREAM_ERROR + aWhat, aField);
+    aFindings.Add(finding,
+                  Detail::Block(finding) + "\n\n" + words.conditionalPrefix + Quoted(aTag) + words.streamSuffix);
+}
+
+/// The lengths of all segments of a kind, in the bounds of their rows. NITF 2.0 has no lower ones, and all nines are a
+/// length there.
+bool ExtractLengths(const NITFFieldSegment::Parts& aParts, bool aSalvage, const char* aTag, std::size_t aCount,
+                    std::vector<std::uint64_t>& aLengths, Detail::FindingList& aFindings)
+{
+    const Detail::FieldTable& table = aParts.layout->table;
+    std::uint64_t least = 0;
+    std::uint64_t most = 0;
+    const bool bounded = Detail::FirstRange(table.Row(table.FindAny(aTag)).values, least, most);
+    least = Is20(aParts) ? 0 : least;
+    aLengths.resize(aCount);
+    for (std::size_t turn = 1; turn <= aCount; ++turn) {
+        const std::string name = TurnName(aTag, turn);
+        std::uint64_t& length = aLengths[turn - 1];
+        const bool isNumber = bounded && Detail::ToCount(aParts.record.Text(name), length);
+        if (!isNumber || length < least || length > most) {
+            AddConditionalFault(aParts, aTag, name, "value of field " + Quoted(aTag) + " is invalid.", aFindings);
+            if (!isNumber || !aSalvage) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+bool ExtractRelatedSegmentFields(const NITFFieldSegment::Parts& aParts, bool aSalvage,
+                                 std::vector<NITFSegmentLengths>& aKinds, Detail::FindingList& aFindings)
+{
+    for (const Detail::SegmentKind& kind : Detail::SEGMENT_KINDS) {
+        if (kind.mark[0] == '\0' || kind.version != aParts.layout->kind->version) {
+            continue;
+        }
+        NITFSegmentLengths lengths;
+        lengths.type = kind.mark;
+        lengths.count = static_cast<std::size_t>(aParts.Number(kind.count));
+        std::vector<std::uint64_t> headers;
+        if (!ExtractLengths(aParts, aSalvage, kind.headerLength, lengths.count, headers, aFindings) ||
+            !ExtractLengths(aParts, aSalvage, kind.dataLength, lengths.count, lengths.data, aFindings)) {
+            return false;
+        }
+        lengths.headers.assign(headers.begin(), headers.end());
+        aKinds.push_back(std::move(lengths));
+    }
+    return true;
+}
+
+bool ExtractFileLength(const NITFFieldSegment::Parts& aParts, std::uint64_t& aLength, Detail::FindingList& aFindings)
+{
+    if (Detail::ToCount(aParts.record.Text("FL"), aLength) && aLength >= LEAST_FILE_LENGTH &&
+        aLength <= MOST_FILE_LENGTH) {
+        return true;
+    }
+    aLength = 0;
+    aFindings.Add(aParts.About(
+        "ERROR: Cannot find NITF file header field " + Quoted("FL") + " in the metadata store or its value is invalid.",
+        "FL"));
+    return false;
+}
+
+bool CheckAreas(const NITFFieldSegment::Parts& aParts, Detail::FindingList& aFindings)
+{
+    for (const Detail::ExtensionArea& area : aParts.layout->kind->areas) {
+        const std::string_view bytes = aParts.record.Text(area.area);
+        if (!Is20(aParts) && bytes.data() != nullptr && bytes.size() < LEAST_EXTENSION_BYTES) {
+            AddConditionalFault(aParts, area.area, area.area,
+                                "failed to extract field " + Quoted(area.area) + " from the data stream.", aFindings);
+            return false;
+        }
+    }
+    return true;
+}
+
+/// In NITF 2.0, where the bytes that later writers use for a colour are part of the name, the colour reads as the
+/// default one.
+void FillColour(Detail::FieldStore& aFields)
+{
+    const Detail::FieldEntry* const colour = aFields.Find("FBKGC");
+    if (colour != nullptr && colour->length == 0) {
+        aFields.Replace(*colour, std::string(3, NITFCnst::NITF20_DEFAULT_FBKGC_VALUE));
+    }
+}
+
 }  // namespace
 
-NITFFileHeader::NITFFileHeader(const char* aFileName, NITFCnst::Version aVersion, const char* aVersionText,
-                               const Detail::FieldTable& aTable)
-    : NITFFieldSegment(aVersionText, NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, aTable),
-      m_fileName(aFileName == nullptr ? "" : aFileName),
-      m_version(aVersion)
+NITFFileHeader::NITFFileHeader(const Layout& aLayout, Input& aInput)
+    : NITFFieldSegment(aLayout, Checked(aLayout, aInput)),
+      m_fileName(aInput.fileName == nullptr ? "" : aInput.fileName),
+      m_streaming(aInput.streaming)
 {
+    Detail::FindingList& findings = aInput.Findings();
+    FillColour(Mine().record.Store());
+    const bool good = CheckAreas(Inside(), findings) &&
+                      ExtractRelatedSegmentFields(Inside(), aInput.salvage, m_lengths, findings) &&
+                      ExtractFileLength(Inside(), m_fileLength, findings);
+    if (!good && !aInput.salvage) {
+        Refuse(aInput);
+    }
+    if (!CheckVersion()) {
+        const std::string text = std::string("ERROR: Expected NITF version ") +
+                                 Quoted(Is20(Inside()) ? NITFCnst::NITF_VERSION_200 : NITFCnst::NITF_VERSION_210) + '.';
+        findings.Add(Inside().About(text, "FHDR"), text);
+        throw ImageSupportDataConstructionException(
+            text.c_str(), (std::string(aLayout.className) + "::CheckFileHeaderVersion").c_str());
+    }
+    const auto& entries = Inside().record.Store().Entries();
+    const std::uint64_t consumed =
+        entries.empty() ? 0 : Inside().record.Store().Position(entries.back()) + entries.back().length;
+    if (consumed != GetFileHeaderLength()) {
+        findings.Add(Inside().About("WARN: The NITF file header fields end after " + std::to_string(consumed) +
+                                        " byte(s), HL says " + std::to_string(GetFileHeaderLength()) +
+                                        " byte(s); HL decides.",
+                                    "HL"));
+    }
+    ReadTREs(aInput);
+    CheckForTreRPFHDR();
+    FinishReading(aInput);
 }
 
 NITFFileHeader::NITFFileHeader(const NITFFileHeader& aOther)
     : NITFFieldSegment(aOther),
       m_fileName(aOther.m_fileName),
-      m_version(aOther.m_version),
       m_fileLength(aOther.m_fileLength),
       m_lengths(aOther.m_lengths),
       m_isRPF(aOther.m_isRPF),
@@ -62,6 +190,18 @@ NITFFileHeader::NITFFileHeader(const NITFFileHeader& aOther)
 
 NITFFileHeader::~NITFFileHeader() = default;
 
+NITFFieldSegment::Input NITFFileHeader::MakeInput(const char* aFileName, const char* aRaw, std::size_t aLength,
+                                                  const char* aVersionText, bool aStreaming, bool aSpecificOnly)
+{
+    Input input;
+    input.raw.assign(aRaw == nullptr ? "" : aRaw, aRaw == nullptr ? 0 : aLength);
+    input.versionText = aVersionText;
+    input.fileName = aFileName;
+    input.streaming = aStreaming;
+    input.specificOnly = aSpecificOnly;
+    return input;
+}
+
 bool NITFFileHeader::CloneObj(const NITFStdDataSegment& aOther)
 {
     const auto* const other = dynamic_cast<const NITFFileHeader*>(&aOther);
@@ -69,13 +209,11 @@ bool NITFFileHeader::CloneObj(const NITFStdDataSegment& aOther)
         return false;
     }
     m_fileName = other->m_fileName;
-    m_version = other->m_version;
     m_fileLength = other->m_fileLength;
     m_lengths = other->m_lengths;
     m_isRPF = other->m_isRPF;
     m_streaming = other->m_streaming;
     m_rpfByteOrder = other->m_rpfByteOrder;
-    FreeRawMetaDataObject();
     return true;
 }
 
@@ -87,126 +225,26 @@ void NITFFileHeader::Swap(NITFStdDataSegment& aOther) noexcept
     }
     NITFFieldSegment::Swap(aOther);
     std::swap(m_fileName, other->m_fileName);
-    std::swap(m_version, other->m_version);
     std::swap(m_fileLength, other->m_fileLength);
     std::swap(m_lengths, other->m_lengths);
     std::swap(m_isRPF, other->m_isRPF);
     std::swap(m_streaming, other->m_streaming);
     std::swap(m_rpfByteOrder, other->m_rpfByteOrder);
-    std::swap(m_metadata, other->m_metadata);
 }
 
-const char* NITFFileHeader::ClassName() const noexcept
+NITFCnst::Version NITFFileHeader::GetVersion() const noexcept
 {
-    return m_version == NITFCnst::NITF_VERSION_NUMBER_20 ? "NITF20FileHeader" : "NITF21FileHeader";
+    return Inside().layout->kind->version;
 }
 
-std::string NITFFileHeader::FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const
+bool NITFFileHeader::CheckVersion() const
 {
-    if (aResult.fault == Detail::Fault::Short) {
-        return {};
+    if (Is20(Inside())) {
+        return FieldText("FHDR") == NITFCnst::STR_NITF_0200;
     }
-    return STREAM_ERROR + ("value of field " + Quoted(aTag)) + " is invalid.";
-}
-
-bool NITFFileHeader::CheckVersionSpecificFields(std::string&)
-{
-    return true;
-}
-
-void NITFFileHeader::Init(std::string aRaw, bool aStreaming, const Detail::KindFields* aKinds, std::size_t aKindCount,
-                          bool aSpecificOnly)
-{
-    const std::string source = std::string(ClassName()) + "::" + ClassName();
-    std::string errors;
-    const std::size_t length = aRaw.size();
-    if (length <= Detail::MOST_BYTES_REFUSED || length > MOST_HEADER_BYTES) {
-        errors = "ERROR: Failed to retrieve the NITF file header from the input file.";
-        throw ImageSupportDataConstructionException(errors.c_str(), source.c_str());
-    }
-    m_streaming = aStreaming;
-    std::uint64_t consumed = 0;
-    bool good = ReadFields(std::move(aRaw), 0, consumed, errors);
-    good = good && CheckVersionSpecificFields(errors);
-    good = good && CheckRequiredFields(errors) == 0;
-    m_lengths.clear();
-    for (std::size_t i = 0; good && i != aKindCount; ++i) {
-        good = ExtractRelatedSegmentFields(aKinds[i], errors);
-    }
-    good = good && ExtractFileLength(errors);
-    if (!good) {
-        m_lengths.clear();
-        if (errors.empty()) {
-            errors = Words().summary;
-        }
-        throw ImageSupportDataConstructionException(errors.c_str(), source.c_str());
-    }
-    CheckFileHeaderVersion();
-    if (consumed != GetFileHeaderLength()) {
-        AddWarning("WARN: The NITF file header fields end after " + std::to_string(consumed) + " byte(s), HL says " +
-                   std::to_string(GetFileHeaderLength()) + " byte(s); HL decides.");
-    }
-    ExtractFileHeaderTREs(aSpecificOnly);
-    CheckForTreRPFHDR();
-}
-
-std::uint64_t NITFFileHeader::LeastLength(std::uint64_t aStandard) const noexcept
-{
-    return aStandard;
-}
-
-bool NITFFileHeader::ExtractLengths(const char* aTag, std::size_t aCount, std::vector<std::uint64_t>& aLengths,
-                                    std::string& aErrors)
-{
-    const Detail::FieldTable& table = Contents().fields.Table();
-    std::uint64_t least = 0;
-    std::uint64_t most = 0;
-    const bool bounded = Detail::FirstRange(table.Row(table.FindAny(aTag)).values, least, most);
-    least = LeastLength(least);
-    aLengths.resize(aCount);
-    for (std::size_t turn = 1; turn <= aCount; ++turn) {
-        const std::string name = TurnName(aTag, turn);
-        std::uint64_t& length = aLengths[turn - 1];
-        if (!bounded || !Detail::ToCount(FieldText(name), length) || length < least || length > most) {
-            Detail::AppendBlock(aErrors,
-                                STREAM_ERROR + ("value of field " + Quoted(aTag)) + " is invalid.\n" + PlaceOf(name));
-            return false;
-        }
-    }
-    return true;
-}
-
-bool NITFFileHeader::ExtractRelatedSegmentFields(const Detail::KindFields& aKind, std::string& aErrors)
-{
-    NITFSegmentLengths lengths;
-    lengths.type = aKind.type;
-    lengths.count = static_cast<std::size_t>(NumberOf(aKind.count));
-    std::vector<std::uint64_t> headers;
-    if (!ExtractLengths(aKind.header, lengths.count, headers, aErrors) ||
-        !ExtractLengths(aKind.data, lengths.count, lengths.data, aErrors)) {
-        return false;
-    }
-    lengths.headers.assign(headers.begin(), headers.end());
-    m_lengths.push_back(std::move(lengths));
-    return true;
-}
-
-bool NITFFileHeader::ExtractFileLength(std::string& aErrors)
-{
-    if (Detail::ToCount(FieldText("FL"), m_fileLength) && m_fileLength >= LEAST_FILE_LENGTH &&
-        m_fileLength <= MOST_FILE_LENGTH) {
-        return true;
-    }
-    m_fileLength = 0;
-    Detail::AppendBlock(aErrors, "ERROR: Cannot find NITF file header field " + Quoted("FL") +
-                                     " in the metadata store or its value is invalid.\n" + PlaceOf("FL"));
-    return false;
-}
-
-void NITFFileHeader::ExtractFileHeaderTREs(bool aSpecificOnly)
-{
-    ReadTREs("UDHD", aSpecificOnly, false, TRE::TRE_TYPE_REGISTERED_EXTENSION, Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN);
-    ReadTREs("XHD", aSpecificOnly, false, TRE::TRE_TYPE_CONTROLLED_EXTENSION, Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN);
+    const std::string_view version = FieldText("FVER");
+    const bool nsif = version == NITFCnst::NSIF_VERSION_100 && FieldText("FHDR") == NITFCnst::NSIF_FILE_FORMAT;
+    return version == NITFCnst::NITF_VERSION_210 || nsif;
 }
 
 void NITFFileHeader::CheckForTreRPFHDR()
@@ -225,13 +263,6 @@ void NITFFileHeader::CheckForTreRPFHDR()
     if (m_isRPF) {
         m_rpfByteOrder = mark == 0x00 ? Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN : Util::CSMCnst::BYTE_ORDER_LITTLE_ENDIAN;
     }
-}
-
-bool NITFFileHeader::AddNITFFileHeaderTRE(TRE* aTre)
-{
-    const bool added = AddDataSegmentTRE(Contents().tres, aTre);
-    FreeRawMetaDataObject();
-    return added;
 }
 
 std::uint64_t NITFFileHeader::GetFileHeaderLength() const noexcept
@@ -291,22 +322,20 @@ bool NITFFileHeader::CopyLengths(const char* aType, std::vector<std::uint64_t>& 
 
 namespace {
 
-/// The type tag of a kind that only one version has; empty for any other.
+/// The mark of a kind that only one version has; empty for any other.
 const char* VersionSpecificType(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept
 {
-    const bool is20 = aVersion == NITFCnst::NITF_VERSION_NUMBER_20;
-    if (aKind == NITFCnst::DATA_SEGMENT_TYPE_LABEL && is20) {
-        return "LA";
-    }
-    const auto drawn = is20 ? NITFCnst::DATA_SEGMENT_TYPE_SYMBOL : NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC;
-    return aKind == drawn ? "SY" : "";
+    const bool specific = aKind == NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC || aKind == NITFCnst::DATA_SEGMENT_TYPE_SYMBOL ||
+                          aKind == NITFCnst::DATA_SEGMENT_TYPE_LABEL;
+    const Detail::SegmentKind* const kind = specific ? Detail::FindKind(aKind, aVersion) : nullptr;
+    return kind == nullptr ? "" : kind->mark;
 }
 
 }  // namespace
 
 std::size_t NITFFileHeader::GetNumOfVersionSpecificDataSegment(NITFCnst::DataSegmentType aKind) const noexcept
 {
-    return CountOf(VersionSpecificType(aKind, m_version));
+    return CountOf(VersionSpecificType(aKind, GetVersion()));
 }
 
 bool NITFFileHeader::GetImageSegmentsInfo(std::vector<std::uint64_t>& aData, std::vector<std::uint32_t>& aHeaders) const
@@ -334,7 +363,7 @@ bool NITFFileHeader::GetReservedExtensionSegmentsInfo(std::vector<std::uint64_t>
 bool NITFFileHeader::GetVersionSpecificSegmentsInfo(NITFCnst::DataSegmentType aKind, std::vector<std::uint64_t>& aData,
                                                     std::vector<std::uint32_t>& aHeaders) const
 {
-    return CopyLengths(VersionSpecificType(aKind, m_version), aData, aHeaders);
+    return CopyLengths(VersionSpecificType(aKind, GetVersion()), aData, aHeaders);
 }
 
 unsigned long NITFFileHeader::GetOverflowUserDefinedHeaderData() const noexcept
@@ -344,8 +373,7 @@ unsigned long NITFFileHeader::GetOverflowUserDefinedHeaderData() const noexcept
 
 unsigned long NITFFileHeader::GetOverflowExtendedHeaderData() const noexcept
 {
-    const bool is20 = m_version == NITFCnst::NITF_VERSION_NUMBER_20;
-    return static_cast<unsigned long>(NumberOf(is20 ? "XHDOFL" : "XHDLOFL"));
+    return static_cast<unsigned long>(NumberOf(Is20(Inside()) ? "XHDOFL" : "XHDLOFL"));
 }
 
 bool NITFFileHeader::CloneRawFileHeader(const char* aBytes, std::size_t aLength)
@@ -353,21 +381,23 @@ bool NITFFileHeader::CloneRawFileHeader(const char* aBytes, std::size_t aLength)
     if (aBytes == nullptr || aLength == 0) {
         return false;
     }
-    Contents().raw.assign(aBytes, aLength);
+    Mine().raw.assign(aBytes, aLength);
     return true;
-}
-
-const RawNITFMetadata* NITFFileHeader::GetAllFileHeaderMetadata() const
-{
-    if (m_metadata == nullptr) {
-        m_metadata = MakeRawMetadata();
-    }
-    return m_metadata.get();
 }
 
 void NITFFileHeader::FreeRawMetaDataObject() noexcept
 {
-    m_metadata.reset();
+    Mine().metadata.Reset();
+}
+
+char* NITFFileHeader::CloneNITFFileHeader(const char* aBytes, std::size_t aLength)
+{
+    if (aBytes == nullptr || aLength == 0) {
+        return nullptr;
+    }
+    auto* const copy = new char[aLength + 1];
+    *std::copy_n(aBytes, aLength, copy) = '\0';
+    return copy;
 }
 
 std::string NITFFileHeader::Xml(const std::string& aIndent) const

@@ -4,18 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM {
-
-namespace Detail {
-struct KindFields;
-}
-
-class RawNITFMetadata;
-class RawNITFMetadataStdDataSegment;
 
 /// The file header of a NITF or NSIF file: identification, security, originator, lengths, and one table per segment
 /// kind with the lengths of every subheader and data part. NITF20FileHeader reads MIL-STD-2500A, NITF21FileHeader
@@ -32,7 +24,7 @@ public:
     std::uint64_t GetFileHeaderLength() const noexcept;
     /// FL: bytes of the file as the header states them; 0 when invalid.
     std::uint64_t GetFileLength() const noexcept { return m_fileLength; }
-    NITFCnst::Version GetVersion() const noexcept { return m_version; }
+    NITFCnst::Version GetVersion() const noexcept;
 
     // The stored text of a field; null when it is not there.
     const char* GetFieldFTITLE() const noexcept { return GetFileHeaderField("FTITLE"); }
@@ -76,7 +68,7 @@ public:
         return GetAllTREs(aArray, aCount, aIncludeOverflow);
     }
     /// Takes the TRE over; false for null.
-    bool AddNITFFileHeaderTRE(TRE* aTre);
+    bool AddNITFFileHeaderTRE(TRE* aTre) { return AddTRE(aTre); }
 
     /// Whether an RPFHDR among the TREs marks the file as raster product format.
     bool IsRPFFile() const noexcept { return m_isRPF; }
@@ -86,7 +78,14 @@ public:
     bool HasStreamingFileHeader() const noexcept { return m_streaming; }
 
     /// The header as raw metadata, built on demand; owned by the header.
-    const RawNITFMetadata* GetAllFileHeaderMetadata() const;
+    const RawNITFMetadataStdDataSegment* GetAllFileHeaderMetadata() const { return GetAllMetadata(); }
+    /// Everything that the table says, as GetFieldsMetadata.
+    bool GetFileHeaderFieldsMetadata(const FieldTexts*& aEditability, const FieldLengths*& aLengths,
+                                     const FieldTypes*& aTypes, const std::vector<const char*>*& aDescriptions,
+                                     const std::vector<const char*>*& aTags, int& aVersion) const
+    {
+        return GetFieldsMetadata(aEditability, aLengths, aTypes, aDescriptions, aTags, aVersion);
+    }
     void FreeRawMetaDataObject() noexcept;
 
     /// Replaces the raw copy of the header; false for null or no bytes.
@@ -96,47 +95,37 @@ public:
     /// A new text with the XML element; the caller frees it with CSMUtilString::DeleteCString.
     bool Serialize(char** aXml, std::size_t& aLength) const;
 
+    /// A new copy of a raw header; the caller frees it with delete[]. Null for null or no bytes.
+    static char* CloneNITFFileHeader(const char* aBytes, std::size_t aLength);
+
 protected:
-    NITFFileHeader(const char* aFileName, NITFCnst::Version aVersion, const char* aVersionText,
-                   const Detail::FieldTable& aTable);
+    /// Reads and checks everything. Raises ImageSupportDataConstructionException with all that was wrong.
+    NITFFileHeader(const Layout& aLayout, Input& aInput);
     NITFFileHeader(const NITFFileHeader& aOther);
 
     using NITFFieldSegment::operator=;
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
-    std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;
 
-    /// Reads and checks everything; raises ImageSupportDataConstructionException with the accumulated text.
-    void Init(std::string aRaw, bool aStreaming, const Detail::KindFields* aKinds, std::size_t aKindCount,
-              bool aSpecificOnly);
-    /// The least length of a segment part that this version accepts, from the least one of the standard.
-    virtual std::uint64_t LeastLength(std::uint64_t aStandard) const noexcept;
-    /// Checks of one version after its fields were read; false with a text.
-    virtual bool CheckVersionSpecificFields(std::string& aErrors);
-    virtual void CheckFileHeaderVersion() const = 0;
-    const char* ClassName() const noexcept;
+    /// What the public constructors of the versions take, as one.
+    static Input MakeInput(const char* aFileName, const char* aRaw, std::size_t aLength, const char* aVersionText,
+                           bool aStreaming, bool aSpecificOnly);
 
 private:
     std::string Xml(const std::string& aIndent) const;
     std::size_t CountOf(const char* aType) const noexcept;
     const NITFSegmentLengths* LengthsOf(const char* aType) const noexcept;
     bool CopyLengths(const char* aType, std::vector<std::uint64_t>& aData, std::vector<std::uint32_t>& aHeaders) const;
-    bool ExtractLengths(const char* aTag, std::size_t aCount, std::vector<std::uint64_t>& aLengths,
-                        std::string& aErrors);
-    bool ExtractRelatedSegmentFields(const Detail::KindFields& aKind, std::string& aErrors);
-    bool ExtractFileLength(std::string& aErrors);
-    void ExtractFileHeaderTREs(bool aSpecificOnly);
+    bool CheckVersion() const;
     void CheckForTreRPFHDR();
 
     std::string m_fileName;
-    NITFCnst::Version m_version;
     std::uint64_t m_fileLength = 0;
     std::vector<NITFSegmentLengths> m_lengths;
     bool m_isRPF = false;
     bool m_streaming = false;
     Util::CSMCnst::ByteOrder m_rpfByteOrder = Util::CSMCnst::BYTE_ORDER_UNKNOWN;
     std::string m_xml;
-    mutable std::unique_ptr<RawNITFMetadataStdDataSegment> m_metadata;
 };
 
 }  // namespace ORMO::SensorModel::CSM

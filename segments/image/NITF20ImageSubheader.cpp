@@ -1,10 +1,8 @@
 #include "segments/image/NITF20ImageSubheader.h"
 
-#include "fields/FieldTable.h"
-#include "fields/Number.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SecurityRows.h"
-#include "segments/fileheader/detail/HeaderWords.h"
+#include "segments/detail/SegmentLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -16,13 +14,14 @@ using enum Detail::Form;
 
 // MIL-STD-2500A.
 // clang-format off
-constexpr FieldRow ROWS[] = {
+constexpr FieldRow HEAD[] = {
     Field("IM",        2, Required,        Text,        "IM", "", "File Part Type [IM]"),
     Field("IID",      10, Required,        Text,        "", "", "Image ID"),
     Field("IDATIM",   14, Required,        Text,        "{DDHHmmSSZMONYY}|blank", "", "Image Date and Time {DDHHMMSSZMONYY}"),
     Field("TGTID",    17, Optional,        Text,        "", "", "Target ID {BBBBBBBBBBFFFFFCC}"),
     Field("ITITLE",   80, Optional,        Text,        "", "", "Image Title"),
-    ORMO_SECURITY_ROWS_20("IS", "Image"),
+};
+constexpr FieldRow BODY[] = {
     Field("ENCRYP",    1, Required,        Digits,      "0|1", "", "Encryption [0|1]").Locked(),
     Field("ISORCE",   42, Optional,        Text,        "", "", "Image Source"),
     Field("NROWS",     8, Required,        Digits,      "00000001..99999999", "", "Number of Significant Rows in Image [00000001-99999999]").Locked(),
@@ -71,52 +70,40 @@ constexpr FieldRow ROWS[] = {
     Field("IALVL",     3, Required,        Digits,      "000..998", "", "Image Attachment Level [000-998]").Locked(),
     Field("ILOC",     10, Required,        NumberText,  "", "", "Image Location {rrrrrccccc}[-9999-99999]"),
     Field("IMAG",      4, Required,        Text,        "", "", "Image Magnification [any decimal|/2-/999]"),
-    Field("UDIDL",     5, Required,        Digits,      "00000|00003..99999", "", "User Defined Image Data Length [00000|00003-99999]"),
-    WhenPositive("UDIDL"),
-        Field("UDOFL",     3, Conditional,     Digits,      "000..999", "", "User Defined Overflow [000-999]").Locked(),
-        Sized("UDID", "UDIDL", -3, Conditional,     Records,     "", "", "User Defined Image Data"),
-    End(),
-    Field("IXSHDL",    5, Required,        Digits,      "00000|00003..99999", "", "Image Extended Subheader Data Length [00000|00003-99999]"),
-    WhenPositive("IXSHDL"),
-        Field("IXSOFL",    3, Conditional,     Digits,      "000..999", "", "Image Extended Subheader Overflow [000-999]").Locked(),
-        Sized("IXSHD", "IXSHDL", -3, Conditional,     Records,     "", "", "Image Extended Subheader Data"),
-    End(),
 };
 // clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
+constexpr auto UDID_ROWS = AreaRows("UDIDL", "00000|00003..99999", "User Defined Image Data Length [00000|00003-99999]",
+                                    "UDOFL", "User Defined Overflow [000-999]", "UDID", "User Defined Image Data");
+constexpr auto IXSHD_ROWS =
+    AreaRows("IXSHDL", "00000|00003..99999", "Image Extended Subheader Data Length [00000|00003-99999]", "IXSOFL",
+             "Image Extended Subheader Overflow [000-999]", "IXSHD", "Image Extended Subheader Data");
+constexpr auto ROWS = JoinRows(HEAD, SECURITY_20<"IS", "Image">, BODY, UDID_ROWS.rows, IXSHD_ROWS.rows);
+constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
-static_assert(FixedWidth(ROWS) == 426);
+static_assert(FixedWidth(ROWS.rows) == 426);
 
-constexpr SegmentWords WORDS = ImageWords(
-    "ERROR: Failed to get all the NITF 2.0 image subheader field values from the input image subheader data "
-    "stream.");
+constexpr NITFFieldSegment::Layout LAYOUT{
+    .className = "NITF20ImageSubheader",
+    .source = "NITF20ImageSubheader::InitNITF20ImageSubheader",
+    .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_IMAGE, NITFCnst::NITF_VERSION_NUMBER_20),
+    .words = &IMAGE_WORDS,
+    .table = TABLE.View(),
+    .summary =
+        "ERROR: Failed to get all the NITF 2.0 image subheader field values from the input image subheader data "
+        "stream."};
 
 }  // namespace
 
-NITF20ImageSubheader::NITF20ImageSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                           const char* aVersionText, Util::CSMCnst::ByteOrder aByteOrder,
-                                           bool aSpecificOnly)
-    : NITFImageSubheader(aVersionText, Table())
-{
-    InitNITFImageSubheader(aInfo.GetSegmentIndex());
-    ReadImageSubheader(aRaw, aLength, aInfo, aSpecificOnly, aByteOrder,
-                       "NITF20ImageSubheader::InitNITF20ImageSubheader");
-}
-
-const Detail::FieldTable& NITF20ImageSubheader::Table() noexcept
-{
-    static constexpr FieldTable table = TABLE.View();
-    return table;
-}
+NITF20ImageSubheader::NITF20ImageSubheader(Input& aInput) : NITFImageSubheader(LAYOUT, aInput) {}
 
 bool NITF20ImageSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(LAYOUT.table, Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
-const Detail::SegmentWords& NITF20ImageSubheader::Words() const
+const NITFFieldSegment::Layout& NITF20ImageSubheader::GetLayout() noexcept
 {
-    return WORDS;
+    return LAYOUT;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -1,11 +1,8 @@
 #include "segments/image/NITF21ImageSubheader.h"
 
-#include "fields/FieldTable.h"
-#include "fields/FieldWalk.h"
-#include "fields/Number.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SecurityRows.h"
-#include "segments/fileheader/detail/HeaderWords.h"
+#include "segments/detail/SegmentLayout.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -26,13 +23,14 @@ bool BandCount(const WalkContext& aContext, std::uint64_t& aOut)
 
 // MIL-STD-2500C, table A-3.
 // clang-format off
-constexpr FieldRow ROWS[] = {
+constexpr FieldRow HEAD[] = {
     Field("IM",        2, Required,        Text,        "IM", "", "File Part Type [IM]"),
     Field("IID1",     10, Required,        Text,        "", "", "Image Identifier 1"),
     Field("IDATIM",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Image Date and Time {CCYYMMDDhhmmss}"),
     Field("TGTID",    17, RequiredBlank,   Text,        "", "", "Target Identifier {BBBBBBBBBBOOOOOCC}"),
     Field("IID2",     80, RequiredBlank,   Ecs,         "", "", "Image Identifier 2"),
-    ORMO_SECURITY_ROWS_21("ISCLAS", nullptr, "IS", "Image", Ecs),
+};
+constexpr FieldRow BODY[] = {
     Field("ENCRYP",    1, Required,        Digits,      "0", "", "Encryption [0]").Locked(),
     Field("ISORCE",   42, RequiredBlank,   Ecs,         "", "", "Image Source"),
     Field("NROWS",     8, Required,        Digits,      "00000001..99999999", "", "Number of Significant Rows in Image [00000001-99999999]").Locked(),
@@ -82,52 +80,40 @@ constexpr FieldRow ROWS[] = {
     Field("IALVL",     3, Required,        Digits,      "000..998", "", "Image Attachment Level [000-998]").Locked(),
     Field("ILOC",     10, Required,        NumberText,  "", "", "Image Location {rrrrrccccc}[-9999-99999]"),
     Field("IMAG",      4, Required,        Text,        "", "", "Image Magnification [any decimal up to 999|/2-/999]"),
-    Field("UDIDL",     5, Required,        Digits,      "00000|00003..99999", "", "User Defined Image Data Length [00000|00003-99999]"),
-    WhenPositive("UDIDL"),
-        Field("UDOFL",     3, Conditional,     Digits,      "000..999", "", "User Defined Overflow [000-999]").Locked(),
-        Sized("UDID", "UDIDL", -3, Conditional,     Records,     "", "", "User Defined Image Data"),
-    End(),
-    Field("IXSHDL",    5, Required,        Digits,      "00000|00003..99999", "", "Image Extended Subheader Data Length [00000|00003-99999]"),
-    WhenPositive("IXSHDL"),
-        Field("IXSOFL",    3, Conditional,     Digits,      "000..999", "", "Image Extended Subheader Overflow [000-999]").Locked(),
-        Sized("IXSHD", "IXSHDL", -3, Conditional,     Records,     "", "", "Image Extended Subheader Data"),
-    End(),
 };
 // clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
+constexpr auto UDID_ROWS = AreaRows("UDIDL", "00000|00003..99999", "User Defined Image Data Length [00000|00003-99999]",
+                                    "UDOFL", "User Defined Overflow [000-999]", "UDID", "User Defined Image Data");
+constexpr auto IXSHD_ROWS =
+    AreaRows("IXSHDL", "00000|00003..99999", "Image Extended Subheader Data Length [00000|00003-99999]", "IXSOFL",
+             "Image Extended Subheader Overflow [000-999]", "IXSHD", "Image Extended Subheader Data");
+constexpr auto ROWS = JoinRows(HEAD, SECURITY_21<"ISCLAS", "IS", "Image">, BODY, UDID_ROWS.rows, IXSHD_ROWS.rows);
+constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
-static_assert(FixedWidth(ROWS) == 426);
+static_assert(FixedWidth(ROWS.rows) == 426);
 
-constexpr SegmentWords WORDS = ImageWords(
-    "ERROR: Failed to get all the NITF 2.1 image subheader field values from the input image subheader data "
-    "stream.");
+constexpr NITFFieldSegment::Layout LAYOUT{
+    .className = "NITF21ImageSubheader",
+    .source = "NITF21ImageSubheader::InitNITF21ImageSubheader",
+    .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_IMAGE, NITFCnst::NITF_VERSION_NUMBER_21),
+    .words = &IMAGE_WORDS,
+    .table = TABLE.View(),
+    .summary =
+        "ERROR: Failed to get all the NITF 2.1 image subheader field values from the input image subheader data "
+        "stream."};
 
 }  // namespace
 
-NITF21ImageSubheader::NITF21ImageSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                           const char* aVersionText, Util::CSMCnst::ByteOrder aByteOrder,
-                                           bool aSpecificOnly)
-    : NITFImageSubheader(aVersionText, Table())
-{
-    InitNITFImageSubheader(aInfo.GetSegmentIndex());
-    ReadImageSubheader(aRaw, aLength, aInfo, aSpecificOnly, aByteOrder,
-                       "NITF21ImageSubheader::InitNITF21ImageSubheader");
-}
-
-const Detail::FieldTable& NITF21ImageSubheader::Table() noexcept
-{
-    static constexpr FieldTable table = TABLE.View();
-    return table;
-}
+NITF21ImageSubheader::NITF21ImageSubheader(Input& aInput) : NITFImageSubheader(LAYOUT, aInput) {}
 
 bool NITF21ImageSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(LAYOUT.table, Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
-const Detail::SegmentWords& NITF21ImageSubheader::Words() const
+const NITFFieldSegment::Layout& NITF21ImageSubheader::GetLayout() noexcept
 {
-    return WORDS;
+    return LAYOUT;
 }
 
 }  // namespace ORMO::SensorModel::CSM

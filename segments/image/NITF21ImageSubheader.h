@@ -10,11 +10,8 @@ namespace ORMO::SensorModel::CSM {
 class ORMO_CSM_API NITF21ImageSubheader : public NITFImageSubheader
 {
 public:
-    /// Reads a raw subheader that stands where `aInfo` says. `aByteOrder` is that of binary TRE fields. With
-    /// `aSpecificOnly`, TREs without a typed form are left out. Raises ImageSupportDataConstructionException with all
-    /// that was wrong.
-    NITF21ImageSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
-                         Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly = false);
+    /// Made by the reader of files only.
+    explicit NITF21ImageSubheader(Input& aInput);
     NITF21ImageSubheader(const NITF21ImageSubheader& aOther) = default;
     using NITFImageSubheader::operator=;
     using NITFImageSubheader::operator==;
@@ -27,12 +24,10 @@ public:
     bool operator==(const NITF21ImageSubheader& aOther) const { return NITFImageSubheader::operator==(aOther); }
     bool operator!=(const NITF21ImageSubheader& aOther) const { return !(*this == aOther); }
 
-    static const Detail::FieldTable& Table() noexcept;
-    /// The smallest and largest width of a field; false for an unknown tag.
+    /// The smallest and largest width of a field; false for an unknown tag. Widths given by another field are 0 to that
+    /// field's largest value.
     static bool GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest);
-
-protected:
-    const Detail::SegmentWords& Words() const override;
+    static const Layout& GetLayout() noexcept;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -3,7 +3,6 @@
 #include "NITFRESSubheader.h"
 
 #include <cstddef>
-#include <memory>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -11,12 +10,8 @@ namespace ORMO::SensorModel::CSM {
 class ORMO_CSM_API NITF21RESSubheader : public NITFRESSubheader
 {
 public:
-    /// Reads a raw subheader that stands where `aInfo` says; the data are read from `aSource` later. A RES carries no
-    /// TREs, so `aByteOrder` and `aSpecificOnly` say nothing. Raises ImageSupportDataConstructionException with all
-    /// that was wrong.
-    NITF21RESSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
-                       std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
-                       bool aSpecificOnly = false);
+    /// Made by the reader of files only.
+    explicit NITF21RESSubheader(Input& aInput);
     NITF21RESSubheader(const NITF21RESSubheader& aOther) = default;
     using NITFRESSubheader::operator=;
     using NITFRESSubheader::operator==;
@@ -29,12 +24,10 @@ public:
     bool operator==(const NITF21RESSubheader& aOther) const { return NITFRESSubheader::operator==(aOther); }
     bool operator!=(const NITF21RESSubheader& aOther) const { return !(*this == aOther); }
 
-    static const Detail::FieldTable& Table() noexcept;
-    /// The smallest and largest width of a field; false for an unknown tag.
+    /// The smallest and largest width of a field; false for an unknown tag. Widths given by another field are 0 to that
+    /// field's largest value.
     static bool GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest);
-
-protected:
-    const Detail::SegmentWords& Words() const override;
+    static const Layout& GetLayout() noexcept;
 };
 
 }  // namespace ORMO::SensorModel::CSM

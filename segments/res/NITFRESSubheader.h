@@ -3,8 +3,8 @@
 #include "../NITFDataSegment.h"
 
 #include <cstddef>
-#include <memory>
 #include <string>
+#include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -25,16 +25,12 @@ public:
     }
 
 protected:
-    NITFRESSubheader(const char* aVersionText, const Detail::FieldTable& aTable);
+    NITFRESSubheader(const Layout& aLayout, Input& aInput);
     NITFRESSubheader(const NITFRESSubheader& aOther);
 
     using NITFDataSegment::operator=;
-    std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;
-    const char* KindWord() const noexcept override { return "RES"; }
     void AppendDataElements(std::string& aXml) const override;
-
-    void InitNITFRES(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                     std::shared_ptr<const Detail::ByteSource> aSource, const char* aReader);
+    bool GetDataField(std::string_view aName, const char*& aValue, std::size_t& aLength) const override;
 };
 
 }  // namespace ORMO::SensorModel::CSM

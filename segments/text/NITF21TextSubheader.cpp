@@ -1,12 +1,9 @@
 #include "segments/text/NITF21TextSubheader.h"
 
-#include "fields/FieldTable.h"
-#include "fields/FieldWalk.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SecurityRows.h"
-#include "segments/detail/SegmentWords.h"
-
-#include <utility>
+#include "segments/detail/SegmentLayout.h"
+#include "segments/text/detail/TextCheck.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -18,53 +15,47 @@ using enum Detail::Form;
 
 // MIL-STD-2500C, table A-6.
 // clang-format off
-constexpr FieldRow ROWS[] = {
+constexpr FieldRow HEAD[] = {
     Field("TE",       2, Required,        Text,        "TE", "", "File Part Type [TE]"),
     Field("TEXTID",   7, Required,        Text,        "", "", "Text Identifier"),
     Field("TXTALVL",  3, Required,        Digits,      "000..998", "", "Text Attachment Level [000-998]").Locked(),
     Field("TXTDT",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Text Date and Time {CCYYMMDDhhmmss}"),
     Field("TXTITL",  80, RequiredBlank,   Ecs,         "", "", "Text Title"),
-    ORMO_SECURITY_ROWS_21("TSCLAS", nullptr, "TS", "Text", Ecs),
+};
+constexpr FieldRow BODY[] = {
     Field("ENCRYP",   1, Required,        Digits,      "0", "", "Encryption [0]").Locked(),
     Field("TXTFMT",   3, Required,        Text,        "MTF|STA|UT1|U8S", "", "Text Format [MTF|STA|UT1|U8S]").Locked(),
-    Field("TXSHDL",   5, Required,        Digits,      "00000|00003..09717", "", "Text Extended Subheader Data Length [00000|00003-09717]"),
-    WhenPositive("TXSHDL"),
-        Field("TXSOFL",   3, Conditional,     Digits,      "000..999", "", "Text Extended Subheader Overflow [000-999]").Locked(),
-        Sized("TXSHD", "TXSHDL", -3, Conditional,     Records,     "", "", "Text Extended Subheader Data"),
-    End(),
 };
 // clang-format on
-constexpr auto TABLE = MakeTable(ROWS);
+constexpr auto TXSHD_ROWS =
+    AreaRows("TXSHDL", "00000|00003..09717", "Text Extended Subheader Data Length [00000|00003-09717]", "TXSOFL",
+             "Text Extended Subheader Overflow [000-999]", "TXSHD", "Text Extended Subheader Data");
+constexpr auto ROWS = JoinRows(HEAD, SECURITY_21<"TSCLAS", "TS", "Text">, BODY, TXSHD_ROWS.rows);
+constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
-static_assert(FixedWidth(ROWS) == 282);
+static_assert(FixedWidth(ROWS.rows) == 282);
 
-constexpr SegmentWords WORDS = TextWords("NITF21TextSubheader");
+constexpr NITFFieldSegment::Layout LAYOUT{
+    .className = "NITF21TextSubheader",
+    .source = "NITF21TextSubheader::InitNITF21TextSubheader",
+    .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_TEXT, NITFCnst::NITF_VERSION_NUMBER_21),
+    .words = &TEXT_WORDS,
+    .table = TABLE.View(),
+    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream.",
+    .check = &CheckTextSegment};
 
 }  // namespace
 
-NITF21TextSubheader::NITF21TextSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                         const char* aVersionText, std::shared_ptr<const Detail::ByteSource> aSource,
-                                         Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly)
-    : NITFTextSubheader(aVersionText, Table())
-{
-    InitNITFTextSegment(aRaw, aLength, aInfo, std::move(aSource), aByteOrder, aSpecificOnly,
-                        "NITF21TextSubheader::InitNITF21TextSubheader");
-}
-
-const Detail::FieldTable& NITF21TextSubheader::Table() noexcept
-{
-    static constexpr FieldTable table = TABLE.View();
-    return table;
-}
+NITF21TextSubheader::NITF21TextSubheader(Input& aInput) : NITFTextSubheader(LAYOUT, aInput) {}
 
 bool NITF21TextSubheader::GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest)
 {
-    return Detail::WidthRange(Table(), Detail::Trimmed(aTag), aSmallest, aLargest);
+    return Detail::WidthRange(LAYOUT.table, Detail::Trimmed(aTag), aSmallest, aLargest);
 }
 
-const Detail::SegmentWords& NITF21TextSubheader::Words() const
+const NITFFieldSegment::Layout& NITF21TextSubheader::GetLayout() noexcept
 {
-    return WORDS;
+    return LAYOUT;
 }
 
 }  // namespace ORMO::SensorModel::CSM

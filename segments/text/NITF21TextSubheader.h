@@ -3,7 +3,6 @@
 #include "NITFTextSubheader.h"
 
 #include <cstddef>
-#include <memory>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -11,12 +10,8 @@ namespace ORMO::SensorModel::CSM {
 class ORMO_CSM_API NITF21TextSubheader : public NITFTextSubheader
 {
 public:
-    /// Reads a raw subheader that stands where `aInfo` says; the text is read from `aSource` later. `aByteOrder` is
-    /// that of binary TRE fields. With `aSpecificOnly`, TREs without a typed form are left out. Raises
-    /// ImageSupportDataConstructionException with all that was wrong.
-    NITF21TextSubheader(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo, const char* aVersionText,
-                        std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
-                        bool aSpecificOnly = false);
+    /// Made by the reader of files only.
+    explicit NITF21TextSubheader(Input& aInput);
     NITF21TextSubheader(const NITF21TextSubheader& aOther) = default;
     using NITFTextSubheader::operator=;
     using NITFTextSubheader::operator==;
@@ -29,12 +24,10 @@ public:
     bool operator==(const NITF21TextSubheader& aOther) const { return NITFTextSubheader::operator==(aOther); }
     bool operator!=(const NITF21TextSubheader& aOther) const { return !(*this == aOther); }
 
-    static const Detail::FieldTable& Table() noexcept;
-    /// The smallest and largest width of a field; false for an unknown tag.
+    /// The smallest and largest width of a field; false for an unknown tag. Widths given by another field are 0 to that
+    /// field's largest value.
     static bool GetFieldLengths(const char* aTag, std::size_t& aSmallest, std::size_t& aLargest);
-
-protected:
-    const Detail::SegmentWords& Words() const override;
+    static const Layout& GetLayout() noexcept;
 };
 
 }  // namespace ORMO::SensorModel::CSM

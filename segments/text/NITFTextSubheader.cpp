@@ -1,65 +1,22 @@
 #include "segments/text/NITFTextSubheader.h"
 
-#include "fields/FieldWalk.h"
 #include "fields/MessageText.h"
-#include "fields/Number.h"
 #include "foundation/CSMMsg.h"
 #include "foundation/detail/Ascii.h"
-#include "segments/detail/Findings.h"
-#include "segments/detail/SegmentContents.h"
-#include "segments/detail/SegmentData.h"
-#include "segments/detail/SegmentWords.h"
-#include "segments/detail/TextCheck.h"
-
-#include <utility>
+#include "segments/detail/SegmentLayout.h"
+#include "segments/text/detail/TextCharacters.h"
+#include "segments/text/detail/TextCheck.h"
 
 namespace ORMO::SensorModel::CSM {
 
-namespace {
-
-constexpr std::uint64_t MOST_ATTACHMENT_LEVEL = 998;
-
-}  // namespace
-
-NITFTextSubheader::NITFTextSubheader(const char* aVersionText, const Detail::FieldTable& aTable)
-    : NITFDataSegment(aVersionText, NITFCnst::DATA_SEGMENT_TYPE_TEXT, aTable)
-{
-}
-
+NITFTextSubheader::NITFTextSubheader(const Layout& aLayout, Input& aInput) : NITFDataSegment(aLayout, aInput) {}
 NITFTextSubheader::NITFTextSubheader(const NITFTextSubheader& aOther) = default;
 NITFTextSubheader::~NITFTextSubheader() = default;
 
-std::string NITFTextSubheader::FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const
-{
-    return aResult.fault == Detail::Fault::Short
-               ? std::string()
-               : "ERROR: Value of text subheader field " + Detail::Quoted(aTag) + " is invalid.";
-}
-
 std::string NITFTextSubheader::DataFaultText() const
 {
-    return Data().HasSource() ? "ERROR: Failed to copy input text data."
-                              : "ERROR: Text segment subheader data stream has not been properly initialized.";
-}
-
-void NITFTextSubheader::InitNITFTextSegment(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                                            std::shared_ptr<const Detail::ByteSource> aSource,
-                                            Util::CSMCnst::ByteOrder aByteOrder, bool aSpecificOnly,
-                                            const char* aReader)
-{
-    ReadSubheader(aRaw, aLength, aInfo, std::move(aSource), "NITFTextSubheader::InitNITFTextSegment", aReader);
-    ReadTREs("TXSHD", aSpecificOnly, false, TRE::TRE_TYPE_CONTROLLED_EXTENSION, aByteOrder);
-    SetAttachmentLevel();
-}
-
-bool NITFTextSubheader::SetAttachmentLevel()
-{
-    std::uint64_t level = 0;
-    if (!Detail::ToCount(FieldText(NITFCnst::NITF21_TS_FIELD_TXTALVL), level) || level > MOST_ATTACHMENT_LEVEL) {
-        return false;
-    }
-    SetLevels(GetDataSegmentDisplayLevel(), level);
-    return true;
+    return HasDataSource() ? "ERROR: Failed to copy input text data."
+                           : "ERROR: Text segment subheader data stream has not been properly initialized.";
 }
 
 std::string NITFTextSubheader::GetTextFormat() const
@@ -77,19 +34,23 @@ void NITFTextSubheader::AppendDataElements(std::string& aXml) const
     AppendDataElement(NITFCnst::XML_ELEMENT_TS_DATA, aXml);
 }
 
-void NITFTextSubheader::Validate(Detail::Findings& aFindings) const
+void Detail::CheckTextSegment(const NITFFieldSegment& aSegment, FindingList& aFindings)
 {
-    NITFDataSegment::Validate(aFindings);
-    std::string text;
-    if (!Data().Read(text)) {
+    const auto& text = dynamic_cast<const NITFTextSubheader&>(aSegment);
+    const char* data = nullptr;
+    std::size_t length = 0;
+    if (!text.GetTextData(data, length)) {
         return;  // whoever read the file has warned of it
     }
-    const Detail::TextFault fault = Detail::CheckText(text, GetTextFormat());
+    const TextFault fault = CheckText({data, length}, text.GetTextFormat());
     if (fault.reason != nullptr) {
         // Conformance samples end lines with a line feed alone or the text with Ctrl-Z; nothing is lost by that.
-        aFindings.AddWarning(std::string(CSMMsg::Warn::DATA_NOT_STANDARDS_COMPLIANT) + " The text of " + Words().owner +
-                             " does not fit its TXTFMT " + Detail::Quoted(GetTextFormat()) + ": " + fault.reason +
-                             " at byte offset " + std::to_string(Data().Start() + fault.offset) + ".");
+        Finding finding =
+            MakeFinding(std::string(CSMMsg::Warn::DATA_NOT_STANDARDS_COMPLIANT) + " The text does not fit its TXTFMT " +
+                        Quoted(text.GetTextFormat()) + ": " + fault.reason + '.');
+        finding.offset = text.GetSegmentDataStart() + fault.offset;
+        finding.value = std::string_view(data, length).substr(fault.offset, 16);
+        aFindings.Add(std::move(finding));
     }
 }
 

@@ -3,7 +3,6 @@
 #include "../NITFDataSegment.h"
 
 #include <cstddef>
-#include <memory>
 #include <string>
 
 namespace ORMO::SensorModel::CSM {
@@ -31,21 +30,12 @@ public:
     }
 
 protected:
-    NITFTextSubheader(const char* aVersionText, const Detail::FieldTable& aTable);
+    NITFTextSubheader(const Layout& aLayout, Input& aInput);
     NITFTextSubheader(const NITFTextSubheader& aOther);
 
     using NITFDataSegment::operator=;
-    std::string FaultText(const Detail::WalkResult& aResult, const std::string& aTag) const override;
-    const char* KindWord() const noexcept override { return "text"; }
     std::string DataFaultText() const override;
     void AppendDataElements(std::string& aXml) const override;
-    bool SetAttachmentLevel() override;
-    void Validate(Detail::Findings& aFindings) const override;
-
-    /// Reads the fields and TXSHD.
-    void InitNITFTextSegment(const char* aRaw, long aLength, const NITFStdDataSegmentInfo& aInfo,
-                             std::shared_ptr<const Detail::ByteSource> aSource, Util::CSMCnst::ByteOrder aByteOrder,
-                             bool aSpecificOnly, const char* aReader);
 };
 
 }  // namespace ORMO::SensorModel::CSM

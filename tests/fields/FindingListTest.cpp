@@ -18,7 +18,7 @@ TEST(FindingListTest, ALineSaysWhatAndWhereAndCarriesNoControlByte)
     finding.value = "\x1B[31m";
     finding.allowed = "01..99";
     EXPECT_EQ(
-        "ERROR: Missing required field BANDSA::COUNT [ImageSegment 2, TRE BANDSA 1, IXSHD, byte offset 1288: value "
+        "ERROR: Missing required field BANDSA::COUNT [ImageSegment 2, TRE BANDSA 1, IXSHD at byte offset 1288: value "
         "0x1B5B33316D, allowed 01..99]",
         finding.Line());
     finding.sentence = "ERROR: one\r\ntwo\x9B";
@@ -33,9 +33,9 @@ TEST(FindingListTest, TextsOfOperationsStandInPlaceOfTheLineAndAreJoinedByBlankL
     list.Add(MakeFinding("ERROR: Second."));
     list.Add(MakeFinding("WARN: Third."));
     list.PlaceAt(mark, "TextSegment", 4);
-    EXPECT_EQ("WARN: First.\n\nwith its bytes\n\nWARN: Third. [TextSegment 4]", list.Blocks(false));
+    EXPECT_EQ("WARN: First.\n\nwith its bytes\n\nWARN: Third.\n[TextSegment 4]", list.Blocks(false));
     EXPECT_EQ("WARN: First.\nWARN: Third. [TextSegment 4]", list.Lines(false));
-    EXPECT_EQ("WARN: Third. [TextSegment 4]", list.Blocks(false, mark));
+    EXPECT_EQ("WARN: Third.\n[TextSegment 4]", list.Blocks(false, mark));
     EXPECT_EQ("ERROR: Second. [TextSegment 4]", list.Lines(true));
     EXPECT_EQ(1U, list.Errors());
     EXPECT_EQ(1U, list.Warnings(mark));

@@ -22,6 +22,7 @@ namespace ORMO::SensorModel::CSM {
 namespace {
 
 using namespace Tests;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -168,9 +169,9 @@ TEST_P(PrefixTest, IsRefusedWithoutAllHeadersAndOpensWithoutAllData)
         if (file.isd == nullptr || length == bytes.size()) {
             continue;
         }
-        ASSERT_THAT(file.Warnings(), HasSubstr("WARN: The data of " + segments->back().kind + " 0 end at byte " +
-                                               std::to_string(bytes.size()) + ", beyond the end of the file at " +
-                                               std::to_string(length)));
+        ASSERT_THAT(file.Warnings(), AllOf(HasSubstr("WARN: The data end at byte " + std::to_string(bytes.size()) +
+                                                     ", beyond the end of the file at " + std::to_string(length)),
+                                           HasSubstr("[" + segments->back().kind + " 0 at byte offset ")));
     }
     EXPECT_THAT(Opened(prefix.Path()).Warnings(), IsEmpty());
 }
@@ -302,14 +303,16 @@ TEST(DamagedFileTest, SubheadersMustStartWithTheirMarkAndEndInTheFile)
     image.Damage("IM", "XX");
     {
         const TempFile file(built.Bytes());
-        EXPECT_THAT(Opened(file.Path()).refusal,
-                    HasSubstr("ImageSegment 0 at byte offset 404 begins with \"XX\" in place of its mark \"IM\""));
+        EXPECT_THAT(
+            Opened(file.Path()).refusal,
+            HasSubstr(
+                "The subheader begins with \"XX\" in place of its mark \"IM\".\n[ImageSegment 0 at byte offset 404]"));
     }
     image.Damage("IM", "IM");
     built.File().Damage("LISH001", "002000");
     const TempFile file(built.Bytes());
     EXPECT_THAT(Opened(file.Path()).refusal,
-                HasSubstr("The subheader of ImageSegment 0 ends at byte 2404, beyond the end of the file at " +
+                HasSubstr("The subheader ends at byte 2404, beyond the end of the file at " +
                           std::to_string(built.Bytes().size())));
 }
 

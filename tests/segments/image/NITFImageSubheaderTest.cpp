@@ -1,5 +1,6 @@
 #include "segments/image/NITF20ImageSubheader.h"
 #include "segments/image/NITF21ImageSubheader.h"
+#include "tests/segments/BuiltSegment.h"
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/Refusal.h"
 #include "tre/TREFactory.h"
@@ -38,14 +39,11 @@ NITFStdDataSegmentInfo InfoOf(NITFCnst::Version aVersion, std::int32_t aIndex = 
 
 std::unique_ptr<NITFImageSubheader> Read(Format aFormat, const std::string& aRaw, std::int32_t aIndex = 0)
 {
-    const auto length = static_cast<long>(aRaw.size());
     if (aFormat == Format::Nitf20) {
-        return std::make_unique<NITF20ImageSubheader>(aRaw.data(), length,
-                                                      InfoOf(NITFCnst::NITF_VERSION_NUMBER_20, aIndex), "NITF02.00",
-                                                      CSMCnst::BYTE_ORDER_BIG_ENDIAN);
+        return ReadSegment<NITF20ImageSubheader>(aRaw, InfoOf(NITFCnst::NITF_VERSION_NUMBER_20, aIndex), nullptr,
+                                                 NITFCnst::STR_NITF_0200);
     }
-    return std::make_unique<NITF21ImageSubheader>(aRaw.data(), length, InfoOf(NITFCnst::NITF_VERSION_NUMBER_21, aIndex),
-                                                  "NITF02.10", CSMCnst::BYTE_ORDER_BIG_ENDIAN);
+    return ReadSegment<NITF21ImageSubheader>(aRaw, InfoOf(NITFCnst::NITF_VERSION_NUMBER_21, aIndex));
 }
 
 std::string Refusal(Format aFormat, const std::string& aRaw)
@@ -111,7 +109,7 @@ TEST_P(EachVersionTest, EveryShorterSubheaderIsRefusedNamingTheFieldThatIsMissin
     const std::string raw = m_fields.Bytes();
     for (std::size_t length = 2; length != raw.size(); ++length) {
         const std::string refusal = Refusal(GetParam(), raw.substr(0, length));
-        ASSERT_THAT(refusal, AllOf(HasSubstr("[ImageSegment field "), HasSubstr(" at byte offset "))) << length;
+        ASSERT_THAT(refusal, AllOf(HasSubstr("[ImageSegment 0 field "), HasSubstr(" at byte offset "))) << length;
     }
     const std::string refusal = Refusal(GetParam(), raw.substr(0, m_fields.OffsetOf("IDLVL") + 1));
     EXPECT_THAT(refusal, HasSubstr("field IDLVL at byte offset " + std::to_string(START + m_fields.OffsetOf("IDLVL")) +
@@ -336,13 +334,11 @@ TEST(NITFImageSubheaderTest, OnlyNumbersBelow999AndKnownVersionsAreOpened)
          {std::pair{NITFCnst::NITF_VERSION_NUMBER_11, CLONE}, std::pair{NITFCnst::NITF_VERSION_NUMBER_UNKNOWN, CLONE},
           std::pair{NITFCnst::NSIF_VERSION_NUMBER_10, ""}}) {
         EXPECT_EQ(text, RefusalOf([&raw, aVersion = version] {
-                      NITF21ImageSubheader(raw.data(), static_cast<long>(raw.size()), InfoOf(aVersion), "NSIF01.00",
-                                           CSMCnst::BYTE_ORDER_BIG_ENDIAN);
+                      ReadSegment<NITF21ImageSubheader>(raw, InfoOf(aVersion), nullptr, "NSIF01.00");
                   }));
     }
     EXPECT_EQ(CLONE, RefusalOf([] {
-                  NITF20ImageSubheader(nullptr, 500, InfoOf(NITFCnst::NITF_VERSION_NUMBER_20), "NITF02.00",
-                                       CSMCnst::BYTE_ORDER_BIG_ENDIAN);
+                  ReadSegment<NITF20ImageSubheader>("", InfoOf(NITFCnst::NITF_VERSION_NUMBER_20), nullptr, "NITF02.00");
               }));
 }
 
@@ -420,9 +416,8 @@ TEST_F(ImageSubheaderAccessTest, CopiesKeepAllAndLiveByThemselves)
     EXPECT_TRUE(copy == image);
     NitfBuilder file;
     const std::string other = file.AddImage(9, 9).Bytes();
-    NITF21ImageSubheader assigned(other.data(), static_cast<long>(other.size()),
-                                  InfoOf(NITFCnst::NITF_VERSION_NUMBER_21, 5), "NITF02.10",
-                                  CSMCnst::BYTE_ORDER_BIG_ENDIAN);
+    NITF21ImageSubheader assigned =
+        *ReadSegment<NITF21ImageSubheader>(other, InfoOf(NITFCnst::NITF_VERSION_NUMBER_21, 5));
     EXPECT_TRUE(assigned != image);
     assigned = image;
     EXPECT_TRUE(assigned == image);

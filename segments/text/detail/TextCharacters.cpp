@@ -1,4 +1,4 @@
-#include "segments/detail/TextCheck.h"
+#include "segments/text/detail/TextCharacters.h"
 
 namespace ORMO::SensorModel::CSM::Detail {
 

@@ -1,0 +1,319 @@
+// How a file becomes an ISD: opened once, its header and every segment read in file order.
+
+#include "fields/MessageText.h"
+#include "foundation/CSMExceptions.h"
+#include "foundation/detail/Ascii.h"
+#include "isd/detail/IsdParts.h"
+#include "raster/GDALNITFFileReader.h"
+#include "segments/detail/SegmentLayout.h"
+#include "segments/fileheader/detail/FileHeaderReader.h"
+
+#include <algorithm>
+#include <set>
+#include <string_view>
+#include <utility>
+
+namespace ORMO::SensorModel::CSM {
+
+using Request = ImageSupportDataNITF::Request;
+using Parts = ImageSupportDataNITF::Parts;
+
+namespace {
+
+/// The error text of all that was found; refuses the file with it. Warnings stand behind the errors: one of them may be
+/// the true cause.
+[[noreturn]] void Refuse(const Detail::FindingList& aFindings)
+{
+    std::string text = aFindings.Blocks(true);
+    Detail::AppendBlock(text, aFindings.Blocks(false));
+    throw ImageSupportDataConstructionException(text.c_str(), "ImageSupportDataNITF::InitImageSupportDataNITF");
+}
+
+/// Reads the segments of one file into its parts.
+class FileReader
+{
+public:
+    FileReader(Request& aRequest, Parts& aParts) : m_request(aRequest), m_parts(aParts), m_findings(aRequest.findings)
+    {
+    }
+
+    void Read()
+    {
+        ReadHeader();
+        CheckLengths();
+        ReadSegments();
+        Detail::PlaceOverflow(m_parts, m_findings);
+        if (m_request.imageSegmentsOnly) {
+            DropOthers();
+        }
+    }
+
+private:
+    using Info = NITFStdDataSegmentInfo;
+
+    void ReadHeader();
+    void CheckLengths();
+    void ReadSegments();
+    void ReadSegment(const Info& aInfo, std::unique_ptr<NITFFieldSegment>& aSegment);
+    bool IsWanted(const Info& aInfo) const;
+    void DropOthers();
+    std::string_view Subheader(const Info& aInfo);
+    void AddError(const Info& aInfo, const std::string& aText);
+
+    Request& m_request;
+    Parts& m_parts;
+    Detail::FindingList& m_findings;
+    // The part of the file that was read last: small segments stand close together.
+    std::string m_window;
+    std::uint64_t m_windowStart = 0;
+    std::set<std::uint64_t> m_overflowOfImages;
+};
+
+void FileReader::ReadHeader()
+{
+    Detail::RawFileHeader raw =
+        Detail::ReadRawFileHeader(*m_parts.source, m_request.first, m_request.version, m_findings);
+    NITFFieldSegment::Input input;
+    input.versionText = NITFCnst::GetNITFVersionString(m_request.version);
+    input.raw = std::move(raw.bytes);
+    input.streaming = raw.streaming;
+    input.specificOnly = m_request.specificOnly;
+    input.fileName = m_request.path.c_str();
+    input.shared = &m_findings;
+    input.salvage = m_request.salvage;
+    const std::size_t errors = m_findings.Errors();
+    try {
+        std::unique_ptr<NITFFieldSegment> header =
+            Detail::MakeSegment(NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, m_request.version, input);
+        m_parts.header.reset(dynamic_cast<NITFFileHeader*>(header.release()));
+    } catch (const ImageSupportDataConstructionException&) {
+        Refuse(m_findings);
+    }
+    if (errors != 0) {
+        Refuse(m_findings);  // HL cannot be, whatever the fields say
+    }
+    m_parts.versionText = m_parts.header->GetNITFVersion();
+    m_window = std::move(m_request.first);
+}
+
+void FileReader::CheckLengths()
+{
+    const NITFFileHeader& header = *m_parts.header;
+    const std::uint64_t headerLength = header.GetFileHeaderLength();
+    const std::uint64_t fileLength = header.GetFileLength();
+    const std::uint64_t size = m_parts.source->Size();
+    std::uint64_t sum = headerLength;
+    for (const NITFSegmentLengths& kind : header.GetSegmentLengths()) {
+        for (std::size_t i = 0; i != kind.headers.size(); ++i) {
+            sum += kind.headers[i] + kind.data[i];
+        }
+    }
+    // The tables decide where the segments are, so an FL that only fails to cover them is no reason to refuse the file.
+    const std::uint64_t covered = fileLength >= headerLength ? std::max(fileLength, sum) : fileLength;
+    std::string errors;
+    if (!m_parts.infos.Build(header.GetVersion(), headerLength, covered, header.GetSegmentLengths(), errors)) {
+        m_findings.Add(Detail::MakeFinding(errors), errors);
+        Refuse(m_findings);
+    }
+    const bool unknown = header.FieldText("FL") == NITFCnst::STR_VAL_999999999999;
+    if ((fileLength != sum || fileLength != size) && !unknown) {
+        m_findings.Add(header.Inside().About("WARN: FL says " + std::to_string(fileLength) +
+                                                 " byte(s), the segment tables add up to " + std::to_string(sum) +
+                                                 ", the file has " + std::to_string(size) +
+                                                 "; the segment tables decide where things are.",
+                                             "FL"));
+    }
+    for (const Info* const info : m_parts.infos.InFileOrder()) {
+        const std::uint64_t end = info->GetSegmentDataStart() + info->GetSegmentDataSize();
+        if (info->GetSegmentDataStart() <= size && end > size) {
+            Finding finding = Detail::MakeFinding("WARN: The data end at byte " + std::to_string(end) +
+                                                  ", beyond the end of the file at " + std::to_string(size) +
+                                                  "; they are not available.");
+            finding.segment = NITFStdDataSegment::GetDataSegmentName(info->GetDataSegmentType());
+            finding.index = info->GetSegmentIndex();
+            finding.offset = info->GetSegmentDataStart();
+            m_findings.Add(std::move(finding));
+        }
+    }
+}
+
+bool FileReader::IsWanted(const Info& aInfo) const
+{
+    if (!m_request.imageSegmentsOnly || aInfo.GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE) {
+        return true;
+    }
+    // What did not fit into an image is the image's all the same.
+    return aInfo.GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION &&
+           m_overflowOfImages.count(static_cast<std::uint64_t>(aInfo.GetSegmentIndex()) + 1) != 0;
+}
+
+void FileReader::ReadSegments()
+{
+    const auto& infos = m_parts.infos.InFileOrder();
+    m_parts.segments.resize(infos.size());
+    for (std::size_t i = 0; i != infos.size(); ++i) {
+        if (!IsWanted(*infos[i])) {
+            continue;
+        }
+        const std::size_t errors = m_findings.Errors();
+        ReadSegment(*infos[i], m_parts.segments[i]);
+        if (m_findings.Errors() != errors && !m_request.salvage) {
+            Refuse(m_findings);
+        }
+        const NITFFieldSegment* const segment = m_parts.segments[i].get();
+        if (m_request.imageSegmentsOnly && segment != nullptr) {
+            for (const Detail::ExtensionArea& area : segment->Inside().layout->kind->areas) {
+                m_overflowOfImages.insert(segment->Inside().Number(area.overflow));
+            }
+        }
+    }
+}
+
+void FileReader::AddError(const Info& aInfo, const std::string& aText)
+{
+    Finding finding = Detail::MakeFinding(aText);
+    finding.segment = NITFStdDataSegment::GetDataSegmentName(aInfo.GetDataSegmentType());
+    finding.index = aInfo.GetSegmentIndex();
+    finding.offset = aInfo.GetSegmentHeaderStart();
+    m_findings.Add(std::move(finding));
+}
+
+std::string_view FileReader::Subheader(const Info& aInfo)
+{
+    const std::uint64_t start = aInfo.GetSegmentHeaderStart();
+    const std::uint64_t size = aInfo.GetSegmentHeaderSize();
+    const auto inWindow = [&] {
+        return start >= m_windowStart && start - m_windowStart <= m_window.size() &&
+               size <= m_window.size() - static_cast<std::size_t>(start - m_windowStart);
+    };
+    if (!inWindow()) {
+        if (!m_parts.source->ReadUpTo(start, std::max<std::uint64_t>(size, Detail::FIRST_READ), m_window)) {
+            m_window.clear();
+        }
+        m_windowStart = start;
+    }
+    return std::string_view(m_window).substr(static_cast<std::size_t>(start - m_windowStart),
+                                             static_cast<std::size_t>(size));
+}
+
+void FileReader::ReadSegment(const Info& aInfo, std::unique_ptr<NITFFieldSegment>& aSegment)
+{
+    const std::string_view raw = Subheader(aInfo);
+    const std::uint64_t size = m_parts.source->Size();
+    if (raw.empty() && m_parts.source->Holds(aInfo.GetSegmentHeaderStart(), aInfo.GetSegmentHeaderSize())) {
+        AddError(aInfo, "ERROR: The subheader cannot be read.");
+        return;
+    }
+    const std::string_view mark = raw.substr(0, 2);
+    if (mark.size() == 2 && mark != aInfo.GetSegmentType()) {
+        AddError(aInfo, "ERROR: The subheader begins with " + Detail::Shown(mark) + " in place of its mark " +
+                            Detail::Quoted(aInfo.GetSegmentType()) + ".");
+        return;
+    }
+    const bool cut = raw.size() < aInfo.GetSegmentHeaderSize();
+    if (cut) {
+        AddError(aInfo, "ERROR: The subheader ends at byte " + std::to_string(aInfo.GetSegmentDataStart()) +
+                            ", beyond the end of the file at " + std::to_string(size) + ".");
+    }
+    NITFFieldSegment::Input input;
+    input.raw = raw;
+    input.info = aInfo;
+    input.versionText = m_parts.versionText.c_str();
+    input.source = m_parts.source;
+    input.byteOrder =
+        m_parts.header->IsRPFFile() ? m_parts.header->GetRPFFileByteOrder() : Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN;
+    input.specificOnly = m_request.specificOnly;
+    input.shared = &m_findings;
+    try {
+        aSegment = Detail::MakeSegment(aInfo.GetDataSegmentType(), m_parts.Version(), input);
+    } catch (const ImageSupportDataConstructionException&) {
+        return;  // what was wrong stands among the findings
+    }
+    if (cut) {
+        aSegment.reset();  // its fields may end before the cut, but the length of the subheader says otherwise
+    }
+}
+
+void FileReader::DropOthers()
+{
+    for (std::unique_ptr<NITFFieldSegment>& segment : m_parts.segments) {
+        if (segment != nullptr && segment->GetDataSegmentType() != NITFCnst::DATA_SEGMENT_TYPE_IMAGE) {
+            segment.reset();
+        }
+    }
+}
+
+}  // namespace
+
+Request Request::Open(const char* aPath)
+{
+    Request request;
+    request.path = Detail::Trimmed(aPath);
+    request.source = Detail::ByteSource::Open(request.path, request.reason);
+    if (request.source != nullptr && !request.source->ReadUpTo(0, Detail::FIRST_READ, request.first)) {
+        request.reason = "The file cannot be read";
+        request.source.reset();
+    }
+    int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+    GDALNITFFileReader::IsNITFFile(reinterpret_cast<const unsigned char*>(request.first.data()), request.first.size(),
+                                   version);
+    request.version = static_cast<NITFCnst::Version>(version);
+    return request;
+}
+
+Request Request::OfMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName)
+{
+    Request request;
+    request.path = Detail::Trimmed(aName);
+    request.path = request.path.empty() ? "memory" : request.path;
+    const std::string_view bytes(static_cast<const char*>(aBytes), aBytes == nullptr ? 0 : aLength);
+    request.source = Detail::ByteSource::OfMemory(bytes, aCopy, request.path);
+    request.first = bytes.substr(0, Detail::FIRST_READ);
+    int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+    GDALNITFFileReader::IsNITFFile(static_cast<const unsigned char*>(aBytes), bytes.size(), version);
+    request.version = static_cast<NITFCnst::Version>(version);
+    return request;
+}
+
+Finding Request::NotIdentified(std::string_view aSentence) const
+{
+    constexpr std::size_t IDENTITY_LENGTH = 9;
+    Finding finding = Detail::MakeFinding(aSentence);
+    if (source == nullptr) {
+        finding.detail = reason;
+        return finding;
+    }
+    finding.field = "FHDR";
+    finding.offset = 0;
+    finding.value = first.substr(0, IDENTITY_LENGTH);
+    if (first.size() < IDENTITY_LENGTH) {
+        finding.detail = "ends the file at byte " + std::to_string(first.size());
+    }
+    return finding;
+}
+
+ImageSupportDataNITF::ImageSupportDataNITF(Request& aRequest)
+    : ImageSupportData(aRequest.path.c_str(), SupportedISD::RasterFormat::NITF,
+                       aRequest.version == NITFCnst::NITF_VERSION_NUMBER_20 ? NITFCnst::NITF_VERSION_200
+                                                                            : NITFCnst::NITF_VERSION_210,
+                       aRequest.source != nullptr),
+      m_parts(std::make_unique<Parts>())
+{
+    m_parts->source = aRequest.source;
+    if (m_parts->source == nullptr) {
+        aRequest.findings.Add(Detail::MakeFinding("ERROR: Failed to open the NITF file: " + aRequest.reason + "."));
+        Refuse(aRequest.findings);
+    }
+    FileReader(aRequest, *m_parts).Read();
+    m_parts->findings = std::move(aRequest.findings);
+    SetHighestSecurityClassificationMarking();
+    if (aRequest.imageSegment >= 0) {
+        SetCurrentImageSegment(aRequest.imageSegment);
+    }
+    m_errorMessage = m_parts->findings.Blocks(true);
+    m_warningMessage = m_parts->findings.Blocks(false);
+}
+
+ImageSupportDataNITF::~ImageSupportDataNITF() = default;
+
+}  // namespace ORMO::SensorModel::CSM

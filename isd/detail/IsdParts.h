@@ -1,0 +1,77 @@
+#pragma once
+
+#include "fields/ByteSource.h"
+#include "fields/FindingList.h"
+#include "isd/ImageSupportDataNITF.h"
+#include "isd/detail/TsmViews.h"
+#include "segments/detail/SegmentKind.h"
+
+#include <atomic>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ORMO::SensorModel::CSM {
+
+/// A file, or a block of memory, that is to become an ISD.
+struct ImageSupportDataNITF::Request
+{
+    std::string path;                                  ///< trimmed
+    std::shared_ptr<const Detail::ByteSource> source;  ///< null when the path leads to nothing that can be read
+    std::string first;                                 ///< the first bytes of the source
+    std::string reason;                                ///< why there is no source
+    NITFCnst::Version version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
+    bool imageSegmentsOnly = false;
+    bool specificOnly = false;
+    int imageSegment = -1;  ///< becomes the current image segment when it is not negative
+    /// What can be read of a damaged file is kept, and what cannot is found wrong in place of refusing the file.
+    bool salvage = false;
+    Detail::FindingList findings;  ///< what was found wrong; the ISD takes them over when it succeeds
+
+    /// Why the source is no NITF file: the sentence, with the system's reason or the bytes that stand in place of FHDR.
+    Finding NotIdentified(std::string_view aSentence) const;
+
+    /// Opens the file once and reads its first bytes; the version is that which they tell.
+    static Request Open(const char* aPath);
+    static Request OfMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName);
+};
+
+/// What was read of a file: its header and one vector of segments in file order.
+struct ImageSupportDataNITF::Parts
+{
+    std::shared_ptr<const Detail::ByteSource> source;
+    std::string versionText;
+    std::unique_ptr<NITFFileHeader> header;
+    NITFStdDataSegmentInfos infos;
+    /// By the place in the file; null for a segment that was left out or could not be read.
+    std::vector<std::unique_ptr<NITFFieldSegment>> segments;
+    Detail::FindingList findings;
+    Detail::FindingList validation;
+    std::FILE* stream = nullptr;
+    Detail::TsmViews tsm;  ///< the file as ISDs of the CSM API, and the sensor models that take it
+
+    Parts() = default;
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
+    ~Parts();
+
+    NITFCnst::Version Version() const noexcept { return header->GetVersion(); }
+    /// The segment of a kind; null when there is none or it was not read.
+    NITFFieldSegment* Segment(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const noexcept;
+    NITFDESSubheader* Des(std::size_t aIndex) const noexcept;
+    std::size_t Count(NITFCnst::DataSegmentType aKind) const noexcept;
+};
+
+namespace Detail {
+
+/// Hands the TREs of every overflow DES to the segment that it names, and checks what both sides say of the other.
+void PlaceOverflow(ImageSupportDataNITF::Parts& aParts, FindingList& aFindings);
+
+/// "ImageSegment 2"; without the number for the file header.
+std::string SegmentName(NITFCnst::DataSegmentType aKind, std::size_t aIndex);
+
+}  // namespace Detail
+
+}  // namespace ORMO::SensorModel::CSM

@@ -1,0 +1,70 @@
+#include "segments/des/NITF20DESSubheader.h"
+#include "segments/des/NITF21DESSubheader.h"
+#include "segments/detail/SegmentLayout.h"
+#include "segments/fileheader/NITF20FileHeader.h"
+#include "segments/fileheader/NITF21FileHeader.h"
+#include "segments/image/NITF20ImageSubheader.h"
+#include "segments/image/NITF21ImageSubheader.h"
+#include "segments/res/NITF20RESSubheader.h"
+#include "segments/res/NITF21RESSubheader.h"
+#include "segments/text/NITF20TextSubheader.h"
+#include "segments/text/NITF21TextSubheader.h"
+
+#include <memory>
+
+namespace ORMO::SensorModel::CSM::Detail {
+
+namespace {
+
+using Input = NITFFieldSegment::Input;
+
+/// A version class of a kind of segment: its layout, which says which, and how to make one.
+struct SegmentClass
+{
+    const NITFFieldSegment::Layout* layout;
+    std::unique_ptr<NITFFieldSegment> (*make)(Input& aInput);
+};
+
+template<typename Class>
+SegmentClass Of() noexcept
+{
+    return {&Class::GetLayout(), [](Input& aInput) -> std::unique_ptr<NITFFieldSegment> {
+                if constexpr (std::is_constructible_v<Class, Input&>) {
+                    return std::make_unique<Class>(aInput);
+                } else {
+                    return std::make_unique<Class>(std::move(aInput));
+                }
+            }};
+}
+
+const SegmentClass* FindClass(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept
+{
+    static const SegmentClass classes[] = {
+        Of<NITF20FileHeader>(),    Of<NITF21FileHeader>(),    Of<NITF20ImageSubheader>(), Of<NITF21ImageSubheader>(),
+        Of<NITF20TextSubheader>(), Of<NITF21TextSubheader>(), Of<NITF20DESSubheader>(),   Of<NITF21DESSubheader>(),
+        Of<NITF20RESSubheader>(),  Of<NITF21RESSubheader>(),
+    };
+    for (const SegmentClass& one : classes) {
+        if (one.layout->kind->kind == aKind && one.layout->kind->version == LayoutVersion(aVersion)) {
+            return &one;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<NITFFieldSegment> MakeSegment(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion,
+                                              Input& aInput)
+{
+    const SegmentClass* const one = FindClass(aKind, aVersion);
+    return one == nullptr ? nullptr : one->make(aInput);
+}
+
+const NITFFieldSegment::Layout* LayoutOf(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept
+{
+    const SegmentClass* const one = FindClass(aKind, aVersion);
+    return one == nullptr ? nullptr : one->layout;
+}
+
+}  // namespace ORMO::SensorModel::CSM::Detail
