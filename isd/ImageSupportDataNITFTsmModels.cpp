@@ -4,8 +4,8 @@
 #include "isd/OrmoCSMPlugin.h"
 #include "isd/detail/CsmCall.h"
 #include "isd/detail/CsmRecords.h"
-#include "isd/detail/RegisteredPlugins.h"
 #include "isd/detail/IsdParts.h"
+#include "isd/detail/RegisteredPlugins.h"
 
 #include <algorithm>
 #include <exception>

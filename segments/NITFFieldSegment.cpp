@@ -297,7 +297,10 @@ std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aT
     const std::string_view name = Detail::Trimmed(aName);
     if (name.empty()) {
         const Detail::SegmentWords& words = *m_parts->layout->words;
-        AddError(aText ? words.emptyTextName : Detail::Trimmed(aTreTag).empty() ? words.emptyName : words.emptyTreName);
+        const bool ofTre = !Detail::Trimmed(aTreTag).empty();
+        AddError(ofTre && words.emptyTreName != nullptr ? words.emptyTreName
+                 : aText                                ? words.emptyTextName
+                                                        : words.emptyName);
         return {};
     }
     if (TreRefusal() != nullptr && !Detail::Trimmed(aTreTag).empty()) {

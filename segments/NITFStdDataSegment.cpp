@@ -170,7 +170,7 @@ bool NITFStdDataSegment::AddOverflowTRE(const TRE* aTre)
 
 void NITFStdDataSegment::TakeOverflowTREs(TREStore& aStore)
 {
-    m_overflow.Take(aStore);
+    aStore.HandOver(m_overflow);
 }
 
 bool NITFStdDataSegment::GetAllOverflowTREs(const TRE**& aArray, std::size_t& aCount) const

@@ -55,7 +55,8 @@ public:
 
     /// Keeps a deep copy; the caller keeps its own TRE. False for null or when no copy can be made.
     bool AddOverflowTRE(const TRE* aTre);
-    /// Takes all TREs of a store over, behind its own; the store is empty afterwards.
+    /// Takes all TREs of a store over, behind its own; the store goes on answering from them as long as this segment
+    /// lives.
     void TakeOverflowTREs(TREStore& aStore);
     bool HasOverFlowTREs() const noexcept { return !m_overflow.IsEmpty(); }
     /// All overflow TREs, grouped by tag in tag order. The array is the caller's (DeleteTREPointerArray), the TREs stay

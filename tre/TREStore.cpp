@@ -44,6 +44,7 @@ struct TagMap
 struct TREStore::Contents
 {
     std::vector<TRE*> tres;
+    bool owns = true;  ///< else another store has the TREs
     Detail::Lazy<TagMap> byTag;
 
     Contents() = default;
@@ -52,7 +53,9 @@ struct TREStore::Contents
     ~Contents()
     {
         for (TRE* const tre : tres) {
-            Detail::TreReleaser()(tre);
+            if (owns) {
+                Detail::TreReleaser()(tre);
+            }
         }
     }
 };
@@ -131,6 +134,15 @@ void TREStore::Take(TREStore& aOther)
     m_contents->byTag.Reset();
     theirs.clear();
     aOther.m_contents.reset();
+}
+
+void TREStore::HandOver(TREStore& aOwner)
+{
+    auto lent = std::make_unique<Contents>();
+    lent->tres = InOrder();
+    lent->owns = false;
+    aOwner.Take(*this);
+    m_contents = std::move(lent);
 }
 
 const TREStore::Map& TREStore::ByTag() const

@@ -32,6 +32,9 @@ public:
     /// Takes all TREs of another store over, behind its own; the other one is empty afterwards. When memory is short
     /// both stay as they are.
     void Take(TREStore& aOther);
+    /// Hands all TREs over to another store, behind its own, and goes on answering from them as long as that one has
+    /// them; copies have TREs of their own. When memory is short both stay as they are.
+    void HandOver(TREStore& aOwner);
     /// Makes room for that many more, so that Add does not fail. Raises std::bad_alloc.
     void Reserve(std::size_t aMore);
     /// Built when it is first asked for; lives until a TRE is added or the store is cleared.

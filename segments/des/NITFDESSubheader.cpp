@@ -76,31 +76,13 @@ NITFDESSubheader::NITFDESSubheader(const Layout& aLayout, Input& aInput)
     SetMessages(errors, GetWarningMessage());
 }
 
-NITFDESSubheader::NITFDESSubheader(const NITFDESSubheader& aOther)
-    : NITFDataSegment(aOther),
-      m_isOverflow(aOther.m_isOverflow),
-      m_isStreaming(aOther.m_isStreaming),
-      m_hasTarget(aOther.m_hasTarget),
-      m_targetKind(aOther.m_targetKind),
-      m_targetIndex(aOther.m_targetIndex),
-      m_targetArea(aOther.m_targetArea),
-      m_carried(aOther.GetOverflowTREs()),  // a copy has TREs of its own, whoever owns those of the other one
-      m_subheader(aOther.m_subheader),
-      m_typedData(aOther.m_typedData)
-{
-}
-
-const TREStore& NITFDESSubheader::GetOverflowTREs() const noexcept
-{
-    return m_owner == nullptr ? m_carried : m_owner->GetOverflowTREStore();
-}
-
+NITFDESSubheader::NITFDESSubheader(const NITFDESSubheader& aOther) = default;
 NITFDESSubheader::~NITFDESSubheader() = default;
 
 bool NITFDESSubheader::operator==(const NITFStdDataSegment& aOther) const
 {
     const auto* const other = dynamic_cast<const NITFDESSubheader*>(&aOther);
-    return other != nullptr && NITFDataSegment::operator==(aOther) && GetOverflowTREs() == other->GetOverflowTREs();
+    return other != nullptr && NITFDataSegment::operator==(aOther) && m_carried == other->m_carried;
 }
 
 bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
@@ -109,7 +91,7 @@ bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
     if (other == nullptr) {
         return false;
     }
-    TREStore carried(other->GetOverflowTREs());
+    TREStore carried(other->m_carried);
     if (!NITFDataSegment::CloneObj(aOther)) {
         return false;
     }
@@ -117,7 +99,7 @@ bool NITFDESSubheader::CloneObj(const NITFStdDataSegment& aOther)
     m_isOverflow = other->m_isOverflow;
     m_isStreaming = other->m_isStreaming;
     m_hasTarget = other->m_hasTarget;
-    m_owner = nullptr;
+    m_isPlaced = other->m_isPlaced;
     m_targetKind = other->m_targetKind;
     m_targetIndex = other->m_targetIndex;
     m_targetArea = other->m_targetArea;
@@ -136,7 +118,7 @@ void NITFDESSubheader::Swap(NITFStdDataSegment& aOther) noexcept
     std::swap(m_isOverflow, other->m_isOverflow);
     std::swap(m_isStreaming, other->m_isStreaming);
     std::swap(m_hasTarget, other->m_hasTarget);
-    std::swap(m_owner, other->m_owner);
+    std::swap(m_isPlaced, other->m_isPlaced);
     std::swap(m_targetKind, other->m_targetKind);
     std::swap(m_targetIndex, other->m_targetIndex);
     std::swap(m_targetArea, other->m_targetArea);
@@ -198,16 +180,16 @@ std::string NITFDESSubheader::InitOverflowTREs(Input& aInput)
     const Detail::AreaOfKind target = Detail::FindArea(m_targetArea, Inside().layout->kind->version);
     const bool registered = target.area != nullptr && target.area->registered;
     Detail::ExtractTREs(data, m_carried, {aInput.specificOnly, false}, aInput.byteOrder,
-                     {NITFCnst::DES_DESID_TRE_OVERFLOW, GetSegmentDataStart(),
-                      registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION},
-                     aInput.Findings());
+                        {NITFCnst::DES_DESID_TRE_OVERFLOW, GetSegmentDataStart(),
+                         registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION},
+                        aInput.Findings());
     return {};
 }
 
 void NITFDESSubheader::PlaceOverflowTREs(NITFStdDataSegment& aOwner)
 {
     aOwner.TakeOverflowTREs(m_carried);
-    m_owner = &aOwner;
+    m_isPlaced = true;
 }
 
 void NITFDESSubheader::InitDESSHF(Input& aInput)

@@ -33,9 +33,8 @@ public:
     /// extension area ("IXSHD"). Whether the file has such a segment is not looked at. False for any other DES and when
     /// DESOFLW or DESITEM do not say; what was wrong stood in the messages after construction.
     bool GetOverflowTarget(NITFCnst::DataSegmentType& aKind, long& aIndex, std::string& aArea) const;
-    /// The TREs of an overflow DES, in order of appearance; empty for any other DES. Once they were handed over, all
-    /// overflow TREs of the segment that has them.
-    const TREStore& GetOverflowTREs() const noexcept;
+    /// The TREs of an overflow DES, in order of appearance; empty for any other DES.
+    const TREStore& GetOverflowTREs() const noexcept { return m_carried; }
     /// DESDATA, read when first asked for; it belongs to the segment. False, with the reason appended to `aErrors` when
     /// that is given, when it is not all in the file.
     bool GetDESDATA(const char*& aData, std::size_t& aLength, std::string* aErrors = nullptr) const
@@ -52,7 +51,7 @@ public:
     bool GetXmlProduct(DesXmlProduct& aProduct) const;
 
     /// Whether the TREs of an overflow DES were handed over to the segment that they belong to.
-    bool IsOverflowPlaced() const noexcept { return m_owner != nullptr; }
+    bool IsOverflowPlaced() const noexcept { return m_isPlaced; }
     /// Hands the TREs of an overflow DES over to their owner. The DES still answers from them as long as the owner
     /// lives.
     void PlaceOverflowTREs(NITFStdDataSegment& aOwner);
@@ -66,7 +65,7 @@ protected:
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
     const char* TreRefusal() const noexcept override;
-    const TREStore& QueriedTREs() const noexcept override { return GetOverflowTREs(); }
+    const TREStore& QueriedTREs() const noexcept override { return m_carried; }
     bool GetDataField(std::string_view aName, const char*& aValue, std::size_t& aLength) const override;
     void AppendDataElements(std::string& aXml) const override;
     std::string_view FieldLeftOut() const noexcept override;
@@ -82,7 +81,7 @@ private:
     bool m_isOverflow = false;
     bool m_isStreaming = false;
     bool m_hasTarget = false;
-    NITFStdDataSegment* m_owner = nullptr;  ///< the segment that has the TREs now
+    bool m_isPlaced = false;
     NITFCnst::DataSegmentType m_targetKind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
     long m_targetIndex = -1;
     std::string m_targetArea;
