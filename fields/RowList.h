@@ -39,4 +39,14 @@ constexpr RowList<N> InCondition(const FieldRow (&aRows)[N])
     return list;
 }
 
+/// The same rows, each often blank in real files: see FieldRow::OftenBlank.
+template<std::size_t N>
+constexpr RowList<N> OftenBlank(const FieldRow (&aRows)[N])
+{
+    RowList<N> list{};
+    std::transform(aRows, aRows + N, list.rows,
+                   [](const FieldRow& aRow) { return aRow.IsField() ? aRow.OftenBlank() : aRow; });
+    return list;
+}
+
 }  // namespace ORMO::SensorModel::CSM::Detail

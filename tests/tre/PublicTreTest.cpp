@@ -307,6 +307,27 @@ TEST(TreSENSRBTest, AnUnknownTypeOfValueIsNamedAndTheRecordKept)
     EXPECT_NE(std::string::npos, text.find("04k")) << text;
 }
 
+TEST(TreSENSRBTest, BlanksForUnknownValuesAreWarnings)
+{
+    std::string record = ShortestRecord(TreSENSRB::Layout().table);
+    FieldStore store(TreSENSRB::Layout().table);
+    (void)FieldWalk::Read(record, store);
+    for (const FieldEntry& entry : store.Entries()) {
+        const bool flag = store.Row(entry).form == Form::Text;
+        const bool count = store.Row(entry).form == Form::Integer;
+        record.replace(static_cast<std::size_t>(store.Position(entry)), entry.length,
+                       count  ? std::string(entry.length, '0')
+                       : flag ? "N"
+                              : std::string(entry.length, ' '));
+    }
+    TRE* made = nullptr;
+    TREFactory::Create("SENSRB", record.data(), TRE::TRE_TYPE_UNKNOWN, &made, true, false, nullptr, record.size());
+    std::string lines;
+    EXPECT_EQ(0, made->ValidateFieldValues(lines)) << lines;
+    EXPECT_NE(std::string::npos, lines.find("WARN: ")) << lines;
+    TREFactory::Destroy(&made);
+}
+
 TEST(OftenBlankTest, ABlankThatIsUsualIsAWarning)
 {
     const auto faults = [](const std::string& aLocation, std::string& aLines) {

@@ -44,11 +44,11 @@ constexpr FieldRow MODULES[] = {
         Field("GEODETIC_TYPE",             1, Conditional,      Text,
               "G=geographic|C=geocentric Cartesian",
               "", "Geodetic Type",
-              "Tells whether positions are latitude, longitude and height or earth-centred x, y and z.").OftenBlank(),
+              "Tells whether positions are latitude, longitude and height or earth-centred x, y and z."),
         Field("ELEVATION_DATUM",           3, Conditional,      Text,
               "HAE=height above the ellipsoid|MSL=mean sea level|AGL=above ground level",
               "", "Elevation Datum",
-              "Surface from which elevations and altitudes are counted.").OftenBlank(),
+              "Surface from which elevations and altitudes are counted."),
         Field("LENGTH_UNIT",               2, Conditional,      Text,    "SI=metric|EE=English",            "",                      "Length Unit System",
               "System of units of all lengths and speeds in the extension."),
         Field("ANGULAR_UNIT",              3, Conditional,      Text,
@@ -56,7 +56,7 @@ constexpr FieldRow MODULES[] = {
               "", "Angular Unit",
               "Unit of all angles in the extension."),
         Field("START_DATE",                8, Conditional,      Date,    "{YYYYMMDD}",                      "UTC",                   "Imaging Start Date",
-              "Day on which the collection of the image began.").OftenBlank(),
+              "Day on which the collection of the image began."),
         Field("START_TIME",               14, Conditional,      Real,    "0..86400|--------------=unknown", "s",                     "Imaging Start Time",
               "Time at which the collection began, counted from the start of that day."),
         Field("END_DATE",                  8, Conditional,      Date,    "{YYYYMMDD}",                      "UTC",                   "Imaging End Date",
@@ -396,7 +396,8 @@ constexpr FieldRow SETS[] = {
     End(),
 };
 // clang-format on
-constexpr auto ROWS = JoinRows(MODULES, SETS);
+// Some producers leave blank what they have no value for, or write a blank in place of N.
+constexpr auto ROWS = JoinRows(OftenBlank(MODULES).rows, OftenBlank(SETS).rows);
 constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS.rows) == 106);
