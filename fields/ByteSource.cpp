@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -81,6 +82,14 @@ std::unique_ptr<ByteSource> ByteSource::OfMemory(std::string_view aBytes, bool a
     return source;
 }
 
+std::unique_ptr<ByteSource> ByteSource::OfPieces(std::map<std::uint64_t, std::string> aPieces, std::uint64_t aSize,
+                                                 std::string aName)
+{
+    auto source = std::unique_ptr<ByteSource>(new ByteSource(std::move(aName), -1, aSize));
+    source->m_pieces = std::move(aPieces);
+    return source;
+}
+
 ByteSource::ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize)
     : m_path(std::move(aPath)), m_descriptor(aDescriptor), m_size(aSize)
 {
@@ -103,11 +112,26 @@ std::FILE* ByteSource::OpenStream() const noexcept
     return stream;
 }
 
+std::string_view ByteSource::PieceFrom(std::uint64_t aOffset) const noexcept
+{
+    const auto next = m_pieces.upper_bound(aOffset);
+    if (next == m_pieces.begin()) {
+        return {};
+    }
+    const auto& [start, bytes] = *std::prev(next);
+    return aOffset - start < bytes.size() ? std::string_view(bytes).substr(static_cast<std::size_t>(aOffset - start))
+                                          : std::string_view();
+}
+
 bool ByteSource::Read(std::uint64_t aOffset, std::uint64_t aLength, std::string& aOut) const
 {
     aOut.clear();
     if (!Holds(aOffset, aLength)) {
         return false;
+    }
+    if (!m_pieces.empty()) {
+        aOut = PieceFrom(aOffset).substr(0, static_cast<std::size_t>(aLength));
+        return true;
     }
     if (IsMemory()) {
         aOut = m_memory.substr(static_cast<std::size_t>(aOffset), static_cast<std::size_t>(aLength));
@@ -137,8 +161,7 @@ bool ByteSource::ReadInto(std::uint64_t aOffset, std::string& aOut) const
 
 bool ByteSource::ReadUpTo(std::uint64_t aOffset, std::uint64_t aMost, std::string& aOut) const
 {
-    const std::uint64_t held = aOffset < m_size ? m_size - aOffset : 0;
-    return Read(std::min(aOffset, m_size), std::min(aMost, held), aOut);
+    return Read(std::min(aOffset, m_size), std::min(aMost, HeldFrom(aOffset)), aOut);
 }
 
 }  // namespace ORMO::SensorModel::CSM::Detail

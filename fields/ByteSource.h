@@ -2,14 +2,15 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
-/// One open file or one block of memory: reads by offset, knows the real size, refuses a length that it cannot hold.
-/// Never waits: only regular files are opened.
+/// One open file, one block of memory, or pieces of a file in memory: reads by offset, knows the real size, refuses a
+/// length that it cannot hold. Never waits: only regular files are opened.
 class ByteSource
 {
 public:
@@ -22,6 +23,11 @@ public:
     /// A block of memory; with `aCopy` a copy of it, else the bytes must live as long as the source. `aName` stands for
     /// a path in messages.
     [[nodiscard]] static std::unique_ptr<ByteSource> OfMemory(std::string_view aBytes, bool aCopy, std::string aName);
+
+    /// The pieces of a file of `aSize` bytes that are known, by their offset; they must not overlap. Nothing stands
+    /// between them: a read that leaves its piece fails.
+    [[nodiscard]] static std::unique_ptr<ByteSource> OfPieces(std::map<std::uint64_t, std::string> aPieces,
+                                                              std::uint64_t aSize, std::string aName);
 
     ~ByteSource();
     ByteSource(const ByteSource&) = delete;
@@ -38,7 +44,7 @@ public:
     /// Whether `aLength` bytes stand at `aOffset`; never wraps.
     bool Holds(std::uint64_t aOffset, std::uint64_t aLength) const noexcept
     {
-        return aOffset <= m_size && aLength <= m_size - aOffset;
+        return aOffset <= m_size && aLength <= HeldFrom(aOffset);
     }
 
     /// All of the bytes or none: false, with `aOut` empty, when the file does not hold them (any more) or the system
@@ -51,12 +57,20 @@ public:
 private:
     ByteSource(std::string aPath, int aDescriptor, std::uint64_t aSize);
     [[nodiscard]] bool ReadInto(std::uint64_t aOffset, std::string& aOut) const;
+    /// How many bytes stand one behind the other from an offset on.
+    std::uint64_t HeldFrom(std::uint64_t aOffset) const noexcept
+    {
+        return !m_pieces.empty() ? PieceFrom(aOffset).size() : aOffset < m_size ? m_size - aOffset : 0;
+    }
+    /// The rest of the piece that an offset lies in; empty between pieces.
+    std::string_view PieceFrom(std::uint64_t aOffset) const noexcept;
 
     std::string m_path;
     int m_descriptor;
     std::uint64_t m_size;
     std::string m_copy;
     std::string_view m_memory;
+    std::map<std::uint64_t, std::string> m_pieces;
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail

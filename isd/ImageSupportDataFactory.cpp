@@ -6,7 +6,7 @@
 #include "isd/ImageSupportDataNITF.h"
 #include "isd/ImageSupportDataNITFFactory.h"
 #include "isd/ImageSupportDataOSDEFactory.h"
-#include "isd/WrapperCSMISD.h"
+#include "isd/WrapperCSMIsdNITF.h"
 #include "isd/detail/IsdCompanion.h"
 #include "isd/detail/IsdParts.h"
 #include "nitf/NITFCnst.h"
@@ -187,17 +187,30 @@ void ImageSupportDataFactory::CreateNitf(ImageSupportDataNITF::Request& aRequest
     *aOut = isd;
 }
 
-void ImageSupportDataFactory::Create(const WrapperCSMISD* /*aIsd*/, ImageSupportData** aOut, bool /*aFlag*/)
+void ImageSupportDataFactory::Create(const WrapperCSMISD* aIsd, ImageSupportData** aOut, bool aFlag)
 {
     Messages().Clear();
     if (aOut != nullptr) {
         *aOut = nullptr;
     }
-    // No class of wrapper can be told from another yet, and none is known to hold what a NITF ISD needs.
-    Messages().SetError(
-        "ERROR: Input WrapperCSMISD object or the input WrapperCSMISD type is currently not supported by the "
-        "ImageSupportData factory.");
-    throw UnsupportedImageSupportDataException(Messages().error.c_str(), "ImageSupportDataFactory::Create");
+    if (aOut == nullptr || dynamic_cast<const WrapperCSMIsdNITF*>(aIsd) == nullptr) {
+        Messages().SetError(
+            "ERROR: Input WrapperCSMISD object or the input WrapperCSMISD type is currently not supported by the "
+            "ImageSupportData factory.");
+        throw UnsupportedImageSupportDataException(Messages().error.c_str(), "ImageSupportDataFactory::Create");
+    }
+    ImageSupportDataNITF* isd = nullptr;
+    try {
+        ImageSupportDataNITFFactory::Create(aIsd, &isd, aFlag, -1);
+    } catch (const CSMException& exception) {
+        Messages().findings = ImageSupportDataNITFFactory::GetFindings();
+        Messages().SetError(exception.GetAdditionalMessage());
+        throw;
+    }
+    *aOut = isd;
+    Messages().findings = ImageSupportDataNITFFactory::GetFindings();
+    Messages().SetError(ImageSupportDataNITFFactory::GetErrorMessage());
+    Messages().SetWarning(ImageSupportDataNITFFactory::GetWarningMessage());
 }
 
 void ImageSupportDataFactory::CreateISD(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2,

@@ -36,8 +36,14 @@ public:
     /// companion is asked. Throws as CreateISD when not even the file header can be read.
     static void Salvage(const char* aPath, ImageSupportData** aOut);
 
-    /// Makes an ISD of a CSM API ISD. Throws UnsupportedImageSupportDataException for a null argument and for a wrapper
-    /// of a class that the library does not know.
+    /// Makes an ISD of a filled NITF ISD of the CSM API (WrapperCSMIsdNITF20, WrapperCSMIsdNITF21), with no file at
+    /// all: of its file header, images, DESs and TREs, which are copied. A record that a host has added to a list of
+    /// TREs stands behind the TREs of the header. `aFlag` goes on to the format as it is.
+    ///
+    /// Throws UnsupportedImageSupportDataException for a null argument and for any other wrapper, and
+    /// ImageSupportDataConstructionException for parts that do not make one file, such as fewer images than the file
+    /// header tells of. `*aOut` stays null, with a text in GetErrorMessage, when the file header is of no version that
+    /// can be read or not of that of the ISD's class.
     static void Create(const WrapperCSMISD* aIsd, ImageSupportData** aOut, bool aFlag);
 
     /// Makes an ISD of a known type and version (NITFCnst::Version for NITF), which no companion is asked about. For

@@ -59,6 +59,11 @@ int ImageSupportDataNITF::Identify(const unsigned char* aHeaderBytes, std::size_
     }
 }
 
+bool ImageSupportDataNITF::IsInitUsingTsmNITFISD() const
+{
+    return m_parts->isOfWrapped;
+}
+
 std::uint64_t ImageSupportDataNITF::GetNITFFileSize() const noexcept
 {
     return m_parts->source->Size();

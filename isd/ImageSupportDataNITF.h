@@ -85,6 +85,8 @@ public:
     /// there is no such segment, its data are not all in the file, or writing fails.
     bool WriteSegmentData(NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::FILE* aOut);
     bool SetCurrentImageSegment(long aSegment) override;
+    /// Such an object has the file header, the images and the DESs; all else, and the pixels, it does not hold.
+    bool IsInitUsingTsmNITFISD() const override;
 
     // A field by the name of its segment: "NITFFileHeader", "ImageSegment" (the current image segment, or the first) or
     // "ImageSegment:2". False with a text in GetErrorMessage.

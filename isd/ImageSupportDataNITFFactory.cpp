@@ -5,12 +5,13 @@
 #include "isd/ImageSupportDataNITF20.h"
 #include "isd/ImageSupportDataNITF21.h"
 #include "isd/SupportedISD.h"
-#include "isd/WrapperCSMISD.h"
+#include "isd/WrapperCSMIsdNITF.h"
 #include "isd/detail/IsdCompanion.h"
 #include "isd/detail/IsdParts.h"
 #include "raster/GDALNITFFileReader.h"
 
 #include <memory>
+#include <string>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -122,18 +123,32 @@ std::unique_ptr<ImageSupportDataNITF> ImageSupportDataNITFFactory::Construct(Ima
     }
 }
 
-bool ImageSupportDataNITFFactory::Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool /*aFlag*/,
-                                         int /*aImageSegment*/)
+bool ImageSupportDataNITFFactory::Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool aFlag,
+                                         int aImageSegment)
 {
     Messages().Clear();
     if (aOut != nullptr) {
         *aOut = nullptr;
     }
-    Messages().SetError(aIsd == nullptr || aOut == nullptr
-                            ? INVALID_ARGUMENT
-                            : "ERROR: Input WrapperCSMISD type is currently not supported by the NITF image support "
-                              "data factory.");
-    return false;
+    const auto* const nitf = dynamic_cast<const WrapperCSMIsdNITF*>(aIsd);
+    if (nitf == nullptr || aOut == nullptr) {
+        Messages().SetError(aIsd == nullptr || aOut == nullptr
+                                ? INVALID_ARGUMENT
+                                : "ERROR: Input WrapperCSMISD type is currently not supported by the NITF image "
+                                  "support data factory.");
+        return false;
+    }
+    ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::OfWrapped(*nitf);
+    const bool is20 = request.version == NITFCnst::NITF_VERSION_NUMBER_20;
+    if (is20 != (dynamic_cast<const WrapperCSMIsdNITF20*>(nitf) != nullptr) && IsKnown(request.version)) {
+        const std::string text = std::string("ERROR: The file header in an ISD of format ") + nitf->GetISDFormat() +
+                                 " is one of " + NITFCnst::GetNITFVersionString(request.version) + ".";
+        Messages().SetError(text.c_str());
+        return false;
+    }
+    request.specificOnly = aFlag || NITFCnst::CREATE_SPECIFIC_TRE_ONLY;
+    request.imageSegment = aImageSegment;
+    return Create(request, aOut);
 }
 
 void ImageSupportDataNITFFactory::Destroy(ImageSupportDataNITF** aIsd)

@@ -25,7 +25,8 @@ public:
     static bool Create(const char* aPath, ImageSupportDataNITF** aOut, bool aImageSegmentsOnly, bool aFlag2,
                        int aImageSegment, NITFCnst::Version aVersion);
 
-    /// Makes an ISD of a CSM API ISD; false for a missing argument and for a wrapper of another class.
+    /// Makes an ISD of a NITF ISD of the CSM API; false for a missing argument, for a wrapper of another class and for
+    /// a file header whose version is not that of the class. Raises as the form for a file does.
     static bool Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool aFlag, int aImageSegment);
 
     /// Releases an ISD and nulls the pointer. Null is ignored.

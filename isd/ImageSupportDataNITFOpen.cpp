@@ -4,6 +4,7 @@
 #include "foundation/CSMExceptions.h"
 #include "foundation/detail/Ascii.h"
 #include "isd/detail/IsdParts.h"
+#include "isd/detail/WrappedIsd.h"
 #include "raster/GDALNITFFileReader.h"
 #include "segments/detail/SegmentLayout.h"
 #include "segments/fileheader/detail/FileHeaderReader.h"
@@ -40,9 +41,16 @@ public:
     void Read()
     {
         ReadHeader();
+        BuildInfos();
+        if (m_request.wrapped != nullptr) {
+            TakeWrapped(*m_request.wrapped);
+        }
         CheckLengths();
         ReadSegments();
         Detail::PlaceOverflow(m_parts, m_findings);
+        if (m_request.wrapped != nullptr) {
+            Detail::AddTresOfRecords(*m_request.wrapped, m_parts, m_findings);
+        }
         if (m_request.imageSegmentsOnly) {
             DropOthers();
         }
@@ -52,6 +60,9 @@ private:
     using Info = NITFStdDataSegmentInfo;
 
     void ReadHeader();
+    void BuildInfos();
+    void TakeWrapped(const WrapperCSMIsdNITF& aIsd);
+    std::uint64_t SumOfLengths() const;
     void CheckLengths();
     void ReadSegments();
     void ReadSegment(const Info& aInfo, std::unique_ptr<NITFFieldSegment>& aSegment);
@@ -96,25 +107,47 @@ void FileReader::ReadHeader()
     m_window = std::move(m_request.first);
 }
 
-void FileReader::CheckLengths()
+std::uint64_t FileReader::SumOfLengths() const
 {
-    const NITFFileHeader& header = *m_parts.header;
-    const std::uint64_t headerLength = header.GetFileHeaderLength();
-    const std::uint64_t fileLength = header.GetFileLength();
-    const std::uint64_t size = m_parts.source->Size();
-    std::uint64_t sum = headerLength;
-    for (const NITFSegmentLengths& kind : header.GetSegmentLengths()) {
+    std::uint64_t sum = m_parts.header->GetFileHeaderLength();
+    for (const NITFSegmentLengths& kind : m_parts.header->GetSegmentLengths()) {
         for (std::size_t i = 0; i != kind.headers.size(); ++i) {
             sum += kind.headers[i] + kind.data[i];
         }
     }
+    return sum;
+}
+
+void FileReader::BuildInfos()
+{
+    const NITFFileHeader& header = *m_parts.header;
+    const std::uint64_t headerLength = header.GetFileHeaderLength();
+    const std::uint64_t fileLength = header.GetFileLength();
     // The tables decide where the segments are, so an FL that only fails to cover them is no reason to refuse the file.
-    const std::uint64_t covered = fileLength >= headerLength ? std::max(fileLength, sum) : fileLength;
+    const std::uint64_t covered = fileLength >= headerLength ? std::max(fileLength, SumOfLengths()) : fileLength;
     std::string errors;
     if (!m_parts.infos.Build(header.GetVersion(), headerLength, covered, header.GetSegmentLengths(), errors)) {
         m_findings.Add(Detail::MakeFinding(errors), errors);
         Refuse(m_findings);
     }
+}
+
+/// Only the places of the segments tell where the parts of the ISD belong.
+void FileReader::TakeWrapped(const WrapperCSMIsdNITF& aIsd)
+{
+    m_parts.isOfWrapped = true;
+    m_parts.source = Detail::SourceOfWrapped(aIsd, m_parts.infos, m_findings);
+    if (m_parts.source == nullptr) {
+        Refuse(m_findings);
+    }
+}
+
+void FileReader::CheckLengths()
+{
+    const NITFFileHeader& header = *m_parts.header;
+    const std::uint64_t fileLength = header.GetFileLength();
+    const std::uint64_t size = m_parts.source->Size();
+    const std::uint64_t sum = SumOfLengths();
     const bool unknown = header.FieldText("FL") == NITFCnst::STR_VAL_999999999999;
     if ((fileLength != sum || fileLength != size) && !unknown) {
         m_findings.Add(header.Inside().About("WARN: FL says " + std::to_string(fileLength) +
@@ -139,6 +172,10 @@ void FileReader::CheckLengths()
 
 bool FileReader::IsWanted(const Info& aInfo) const
 {
+    if (m_request.wrapped != nullptr && aInfo.GetDataSegmentType() != NITFCnst::DATA_SEGMENT_TYPE_IMAGE &&
+        aInfo.GetDataSegmentType() != NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION) {
+        return false;  // no CSM API ISD carries it
+    }
     if (!m_request.imageSegmentsOnly || aInfo.GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE) {
         return true;
     }
@@ -272,6 +309,15 @@ Request Request::OfMemory(const void* aBytes, std::size_t aLength, bool aCopy, c
     int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
     GDALNITFFileReader::IsNITFFile(static_cast<const unsigned char*>(aBytes), bytes.size(), version);
     request.version = static_cast<NITFCnst::Version>(version);
+    return request;
+}
+
+Request Request::OfWrapped(const WrapperCSMIsdNITF& aIsd)
+{
+    const std::string_view header = aIsd.GetFileHeader();
+    const bool hasName = *aIsd.GetImageFileName() != '\0';
+    Request request = OfMemory(header.data(), header.size(), true, hasName ? aIsd.GetImageFileName() : "CSM API ISD");
+    request.wrapped = &aIsd;
     return request;
 }
 

@@ -87,7 +87,8 @@ bool SetImages(const ImageSupportDataNITF& aFrom, NitfISD& aTo, int aImageSegmen
     const std::size_t first = aImageSegment < 0 ? 0 : static_cast<std::size_t>(aImageSegment);
     Records<::image> images(aImageSegment < 0 ? all : 1);
     for (std::size_t i = 0; i != images.count; ++i) {
-        if (!FillImage(aFrom.GetImageSubheader(first + i), images.items[i])) {
+        // Of all images, one that could not be read keeps its place; alone it is none.
+        if (!FillImage(aFrom.GetImageSubheader(first + i), images.items[i]) && aImageSegment >= 0) {
             return false;
         }
     }
@@ -98,9 +99,14 @@ bool SetImages(const ImageSupportDataNITF& aFrom, NitfISD& aTo, int aImageSegmen
 template<typename NitfISD>
 bool SetDESs(const ImageSupportDataNITF& aFrom, NitfISD& aTo)
 {
+    // Those that were read; a damaged file may have others between them.
     std::vector<const NITFDESSubheader*> found;
-    while (const NITFDESSubheader* const des = aFrom.GetDataExtensionSegment(found.size())) {
-        found.push_back(des);
+    const NITFStdDataSegmentInfos::Infos* const infos =
+        aFrom.GetSegmentInfos().Get(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION);
+    for (std::size_t i = 0; infos != nullptr && i != infos->size(); ++i) {
+        if (const NITFDESSubheader* const des = aFrom.GetDataExtensionSegment(i)) {
+            found.push_back(des);
+        }
     }
     Records<::des> dess(found.size());
     for (std::size_t i = 0; i != found.size(); ++i) {
@@ -197,10 +203,11 @@ bool ImageSupportDataNITF::SetTSMISD(int aImageSegment, tsm_ISD* aTsmISD) const
         return false;
     }
     try {
-        const std::string path = GetFileName() == nullptr ? "" : GetFileName();
+        // What stands in memory has a name for messages, but no file that the name leads to.
+        const std::string path = m_parts->source->IsMemory() || GetFileName() == nullptr ? "" : GetFileName();
         if (auto* const bytes = dynamic_cast<bytestreamISD*>(aTsmISD); bytes != nullptr) {
             std::string read;
-            if (path.empty() || !m_parts->source->Read(0, m_parts->source->Size(), read)) {
+            if (!m_parts->source->Read(0, m_parts->source->Size(), read)) {
                 return false;
             }
             bytes->_isd.swap(read);
@@ -212,7 +219,9 @@ bool ImageSupportDataNITF::SetTSMISD(int aImageSegment, tsm_ISD* aTsmISD) const
             return true;
         }
         if (auto* const byName = dynamic_cast<filenameISD*>(aTsmISD); byName != nullptr) {
-            byName->_filename = path;
+            if (!path.empty()) {
+                byName->_filename = path;
+            }
             return !path.empty();
         }
     } catch (const std::exception&) {

@@ -15,6 +15,8 @@
 
 namespace ORMO::SensorModel::CSM {
 
+class WrapperCSMIsdNITF;
+
 /// A file, or a block of memory, that is to become an ISD.
 struct ImageSupportDataNITF::Request
 {
@@ -28,7 +30,8 @@ struct ImageSupportDataNITF::Request
     int imageSegment = -1;  ///< becomes the current image segment when it is not negative
     /// What can be read of a damaged file is kept, and what cannot is found wrong in place of refusing the file.
     bool salvage = false;
-    Detail::FindingList findings;  ///< what was found wrong; the ISD takes them over when it succeeds
+    const WrapperCSMIsdNITF* wrapped = nullptr;  ///< the CSM API ISD that stands for the file; null when there is none
+    Detail::FindingList findings;                ///< what was found wrong; the ISD takes them over when it succeeds
 
     /// Why the source is no NITF file: the sentence, with the system's reason or the bytes that stand in place of FHDR.
     Finding NotIdentified(std::string_view aSentence) const;
@@ -36,6 +39,8 @@ struct ImageSupportDataNITF::Request
     /// Opens the file once and reads its first bytes; the version is that which they tell.
     static Request Open(const char* aPath);
     static Request OfMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName);
+    /// The wrapper must live until the ISD is made.
+    static Request OfWrapped(const WrapperCSMIsdNITF& aIsd);
 };
 
 /// What was read of a file: its header and one vector of segments in file order.
@@ -50,7 +55,8 @@ struct ImageSupportDataNITF::Parts
     Detail::FindingList findings;
     Detail::FindingList validation;
     std::FILE* stream = nullptr;
-    Detail::TsmViews tsm;  ///< the file as ISDs of the CSM API, and the sensor models that take it
+    bool isOfWrapped = false;  ///< made from a CSM API ISD
+    Detail::TsmViews tsm;      ///< the file as ISDs of the CSM API, and the sensor models that take it
 
     Parts() = default;
     Parts(const Parts&) = delete;

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string>
 #include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -130,6 +131,29 @@ TEST_F(ByteSourceTest, AFifoIsNeitherWaitedForNorTakenFromItsReader)
     const int reader = ::open(Path("fifo").c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     writer.join();
     ::close(reader);
+}
+
+TEST(BytePiecesTest, ReadsStayInsideOnePiece)
+{
+    const auto source = ByteSource::OfPieces({{0, "header"}, {10, "part"}, {14, "next"}}, 30, "pieces");
+    EXPECT_TRUE(source->IsMemory());
+    EXPECT_EQ(30U, source->Size());
+    std::string bytes;
+    EXPECT_TRUE(source->Read(11, 3, bytes));
+    EXPECT_EQ("art", bytes);
+    EXPECT_TRUE(source->Read(14, 4, bytes));
+    EXPECT_EQ("next", bytes);
+    // Nothing between two pieces, and no read across the border of two that touch.
+    for (const auto& [offset, length] : {std::pair{6U, 1U}, {0U, 7U}, {10U, 5U}, {18U, 1U}, {29U, 1U}, {40U, 0U}}) {
+        EXPECT_FALSE(source->Holds(offset, length)) << offset;
+        EXPECT_FALSE(source->Read(offset, length, bytes)) << offset;
+        EXPECT_TRUE(bytes.empty());
+    }
+    EXPECT_TRUE(source->ReadUpTo(2, 100, bytes));
+    EXPECT_EQ("ader", bytes);
+    EXPECT_TRUE(source->ReadUpTo(7, 100, bytes));
+    EXPECT_EQ("", bytes);
+    EXPECT_TRUE(source->Read(20, 0, bytes));
 }
 
 }  // namespace

@@ -332,6 +332,26 @@ TEST(TsmPopulationCaseTest, FileWithoutImagesKeepsItsTresAndDess)
     EXPECT_FALSE(Nitf(isd).SetTSMISD(0, &filled));
 }
 
+TEST(TsmPopulationCaseTest, FileInMemoryHasNoNameToBeFoundBy)
+{
+    const std::string bytes = Builder(Format::Nitf21).Bytes();
+    ImageSupportData* made = nullptr;
+    ImageSupportDataFactory::CreateFromMemory(bytes.data(), bytes.size(), false, "by name", &made, true, false);
+    const std::unique_ptr<ImageSupportData, Destroyer> isd(made);
+    const tsm_ISD** forms = nullptr;
+    std::size_t count = 0;
+    ASSERT_TRUE(isd->GetAllTsmISDs(forms, count));
+    ASSERT_EQ(count, 1U);
+    ExpectFilled<NITF_2_1_ISD>(*forms[0], Nitf(isd), bytes);
+    bytestreamISD stream;
+    ASSERT_TRUE(Nitf(isd).SetTSMISD(-1, &stream));
+    EXPECT_EQ(stream._isd, bytes);
+    filenameISD name;
+    name._filename = "before";
+    EXPECT_FALSE(Nitf(isd).SetTSMISD(-1, &name));
+    EXPECT_EQ(name._filename, "before");
+}
+
 TEST(TsmPopulationCaseTest, DesThatTheFileDoesNotHoldIsFilledInWithoutData)
 {
     NitfBuilder builder;
