@@ -76,8 +76,7 @@ TreRecordMaker::TreRecordMaker(const FieldTable& aTable, std::uint32_t aSeed)
     : m_table(aTable), m_random(aSeed), m_reached(aTable.Size()), m_passed(aTable.Size())
 {
     const auto rows = aTable.Rows();
-    m_hasOpenRepeat = std::any_of(rows.begin(), rows.end(),
-                                  [](const FieldRow& aRow) { return aRow.kind == RowKind::Repeat && aRow.rest; });
+    m_hasOpenEnd = std::any_of(rows.begin(), rows.end(), [](const FieldRow& aRow) { return aRow.rest; });
 }
 
 std::string TreRecordMaker::Next()
@@ -122,7 +121,7 @@ bool TreRecordMaker::Make(std::string& aRecord)
             }
             aRecord.replace(place, entry.length, Value(entry));
             result = FieldWalk::Read(aRecord, store);
-        } while ((!m_hasOpenRepeat && (result.consumed > LONG_ENOUGH || store.Entries().size() > FIELDS_ENOUGH)) ||
+        } while ((!m_hasOpenEnd && (result.consumed > LONG_ENOUGH || store.Entries().size() > FIELDS_ENOUGH)) ||
                  (!result.IsGood() && store.Entries().size() <= field + 1));
     }
     aRecord.resize(static_cast<std::size_t>(result.consumed));

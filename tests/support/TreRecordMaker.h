@@ -50,7 +50,7 @@ private:
 
     Detail::FieldTable m_table;
     std::mt19937 m_random;
-    bool m_hasOpenRepeat = false;
+    bool m_hasOpenEnd = false;    // a field or repeat takes all that is left
     std::vector<bool> m_reached;  // by row
     std::vector<bool> m_passed;   // by row, of conditions: a record had their surroundings, but not them
 };
