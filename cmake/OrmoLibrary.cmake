@@ -42,6 +42,11 @@ if(BUILD_SHARED_LIBS)
     target_link_options(ormo_csm PRIVATE -Wl,-z,nodelete)
 endif()
 set_target_properties(ormo_csm PROPERTIES EXPORT_NAME csm LINKER_LANGUAGE CXX)
+if(BUILD_SHARED_LIBS AND NOT APPLE)
+    set(ORMO_CSM_MAP "${PROJECT_SOURCE_DIR}/cmake/ormo_csm.map")
+    target_link_options(ormo_csm PRIVATE "LINKER:--version-script=${ORMO_CSM_MAP}")
+    set_target_properties(ormo_csm PROPERTIES LINK_DEPENDS "${ORMO_CSM_MAP}")
+endif()
 target_include_directories(
     ormo_csm PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm>)
 
