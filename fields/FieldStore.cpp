@@ -20,8 +20,10 @@ void FieldStore::Begin(std::size_t aBytes)
     m_arena.reserve(bytes);
     m_arena.resize(std::min(bytes, BYTES_AT_ONCE));
     m_entries.reserve(fields);
-    m_index.reserve(m_table.Size() + 1 + fields);
-    m_index.assign(m_table.Size(), 0);
+    if (m_table.HasRepeats()) {
+        m_index.reserve(m_table.Size() + 1 + fields);
+        m_index.assign(m_table.Size(), 0);
+    }
 }
 
 void FieldStore::Reserve(std::size_t aMoreFields, std::size_t aBytesLeft)
@@ -57,23 +59,48 @@ std::uint32_t FieldStore::Append(std::string_view aValue)
 void FieldStore::Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue)
 {
     m_entries.push_back({Append(aValue), static_cast<std::uint32_t>(aValue.size()), aRow, aTurns});
-    m_index[aRow] = static_cast<std::uint32_t>(m_entries.size());
+    if (m_table.HasRepeats()) {
+        m_index[aRow] = static_cast<std::uint32_t>(m_entries.size());
+    }
 }
 
 const FieldEntry* FieldStore::Latest(std::uint16_t aRow) const noexcept
 {
+    if (!m_table.HasRepeats()) {
+        return Single(aRow);
+    }
     const std::uint32_t place = m_index[aRow];
     return place == 0 ? nullptr : &m_entries[place - 1];
 }
 
+const FieldEntry* FieldStore::Single(std::uint16_t aRow) const noexcept
+{
+    // Every row before is a field that was read, unless there are groups or faults.
+    if (aRow < m_entries.size() && m_entries[aRow].row == aRow) {
+        return &m_entries[aRow];
+    }
+    const auto it =
+        std::lower_bound(m_entries.begin(), m_entries.end(), aRow,
+                         [](const FieldEntry& aEntry, std::uint16_t aWanted) { return aEntry.row < aWanted; });
+    return it == m_entries.end() || it->row != aRow ? nullptr : &*it;
+}
+
 void FieldStore::Forget(std::size_t aFirst, std::size_t aLast) noexcept
 {
+    if (!m_table.HasRepeats()) {
+        return;
+    }
     std::fill(m_index.begin() + static_cast<std::ptrdiff_t>(aFirst),
               m_index.begin() + static_cast<std::ptrdiff_t>(aLast), 0U);
 }
 
 void FieldStore::Finish()
 {
+    m_arena.resize(m_used);
+    m_size = m_used - m_entries.size();  // one NUL stands behind every value
+    if (!m_table.HasRepeats()) {
+        return;
+    }
     // Entries of one row were added in the order of their turns, so listing them row by row sorts them.
     const std::size_t rows = m_table.Size();
     m_index.assign(rows + 1 + m_entries.size(), 0);
@@ -91,13 +118,13 @@ void FieldStore::Finish()
     }
     std::copy_backward(starts.begin(), starts.end() - 1, starts.end());  // each start has moved on to the next one
     starts[0] = 0;
-    m_arena.resize(m_used);
 }
 
 void FieldStore::Clear() noexcept
 {
     m_arena.clear();
     m_used = 0;
+    m_size = 0;
     m_entries.clear();
     m_index.clear();
     m_replaced.clear();
@@ -125,8 +152,17 @@ std::span<const std::uint32_t> FieldStore::EntriesOf(std::uint16_t aRow) const n
     return {m_index.data() + rows + 1 + first, last - first};
 }
 
+bool FieldStore::Has(std::uint16_t aRow) const noexcept
+{
+    return m_table.HasRepeats() ? !EntriesOf(aRow).empty() : Single(aRow) != nullptr;
+}
+
 const FieldEntry* FieldStore::Find(std::uint16_t aRow, const Turns& aTurns) const noexcept
 {
+    if (!m_table.HasRepeats()) {
+        const FieldEntry* const entry = Single(aRow);
+        return entry == nullptr || entry->turns != aTurns ? nullptr : entry;
+    }
     const auto entries = EntriesOf(aRow);
     // In most repeats every turn has the field, so the turn tells the place.
     const std::size_t guess = aTurns[0] == 0 ? 0 : aTurns[0] - 1;

@@ -38,6 +38,8 @@ public:
     const FieldTable& Table() const noexcept { return m_table; }
     ByteOrder Order() const noexcept { return m_order; }
     bool IsEmpty() const noexcept { return m_entries.empty(); }
+    /// Bytes of the fields that were read; Replace does not change it.
+    std::size_t Size() const noexcept { return m_size; }
     std::span<const FieldEntry> Entries() const noexcept { return m_entries; }
     const FieldRow& Row(const FieldEntry& aEntry) const noexcept { return m_table.Row(aEntry.row); }
 
@@ -54,8 +56,8 @@ public:
     const FieldEntry* Find(std::uint16_t aRow, const Turns& aTurns) const noexcept;
     /// The value of a name, or an empty view with a null pointer.
     std::string_view Find(std::string_view aName, bool& aFound) const noexcept;
-    /// All entries of a row, in order of their turns.
-    std::span<const std::uint32_t> EntriesOf(std::uint16_t aRow) const noexcept;
+    /// Whether the field of a row was read in any turn.
+    bool Has(std::uint16_t aRow) const noexcept;
 
     std::string Name(const FieldEntry& aEntry) const;
     void AppendName(const FieldEntry& aEntry, std::string& aOut) const
@@ -81,6 +83,10 @@ private:
     /// Where a NUL-terminated copy of the value stands.
     std::uint32_t Append(std::string_view aValue);
     void Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue);
+    /// The entry of a row of a table without repeats; there the rows of the entries ascend.
+    const FieldEntry* Single(std::uint16_t aRow) const noexcept;
+    /// The places of all entries of a row of a table with repeats, in order of their turns.
+    std::span<const std::uint32_t> EntriesOf(std::uint16_t aRow) const noexcept;
     /// The latest entry of a row while the walk goes on.
     const FieldEntry* Latest(std::uint16_t aRow) const noexcept;
     /// Ends what Latest says of the rows of a loop, which nothing after its last turn may look at.
@@ -92,9 +98,10 @@ private:
     ByteOrder m_order = Util::CSMCnst::BYTE_ORDER_BIG_ENDIAN;
     std::string m_arena;  // NUL behind the bytes used
     std::size_t m_used = 0;
+    std::size_t m_size = 0;
     std::vector<FieldEntry> m_entries;
-    // During the walk: the latest entry of each row, plus one. Afterwards: for each row the start of its entries in
-    // the second half, which lists the entries row by row.
+    // Empty without repeats. During the walk: the latest entry of each row, plus one. Afterwards: for each row the
+    // start of its entries in the second half, which lists the entries row by row.
     std::vector<std::uint32_t> m_index;
     // Of the few entries with a value from Replace: the place among the entries and the position in the data.
     std::vector<std::pair<std::size_t, std::uint64_t>> m_replaced;

@@ -66,6 +66,8 @@ public:
     constexpr std::size_t FieldCount() const noexcept { return m_fieldCount; }
     /// Number of fields in data that fill every condition and no repeat whose count they state themselves.
     constexpr std::size_t UsualFields() const noexcept { return m_usualFields; }
+    /// Whether a field may be read more than once.
+    constexpr bool HasRepeats() const noexcept { return m_deepest != 0; }
     constexpr Naming NamingStyle() const noexcept { return m_naming; }
 
     /// The row of a base tag or of its alias at a loop depth, or NO_ROW.

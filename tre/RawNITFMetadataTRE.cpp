@@ -1,9 +1,10 @@
 #include "tre/RawNITFMetadataTRE.h"
 
 #include "foundation/detail/HandOut.h"
-#include "tre/TRE.h"
+#include "tre/detail/TreParts.h"
 
 #include <string_view>
+#include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -17,9 +18,10 @@ RawNITFMetadataTRE::RawNITFMetadataTRE(const TRE& aTre, int aVersionNumber, cons
       m_classification(aClassification == nullptr ? NITFCnst::STR_SC_UNKNOWN : aClassification),
       m_generic(aTre.IsGenericTRE())
 {
-    std::size_t length = 0;
-    const char* const data = aTre.GetRawTREDataString(length);
-    SetRawDataStream(std::string(data, length), "Data of TRE " + m_tag);
+    const TRE::Parts& parts = TRE::Parts::Of(aTre);
+    std::string data(parts.Length(), '\0');
+    parts.CopyData(data.data());
+    SetRawDataStream(std::move(data), "Data of TRE " + m_tag);
     CopyFields(aTre);
 }
 

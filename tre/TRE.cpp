@@ -55,8 +55,13 @@ TRE& TRE::operator=(const TRE& aOther)
 
 bool TRE::operator==(const TRE& aOther) const
 {
-    return ViewOf(m_parts->tag) == ViewOf(aOther.m_parts->tag) && m_parts->type == aOther.m_parts->type &&
-           m_parts->layout == aOther.m_parts->layout && m_parts->Data() == aOther.m_parts->Data();
+    const Parts& mine = *m_parts;
+    const Parts& theirs = *aOther.m_parts;
+    if (ViewOf(mine.tag) != ViewOf(theirs.tag) || mine.type != theirs.type || mine.layout != theirs.layout) {
+        return false;
+    }
+    return mine.fields == nullptr || theirs.fields == nullptr ? mine.Data() == theirs.Data()
+                                                              : *mine.fields == *theirs.fields;
 }
 
 bool TRE::operator!=(const TRE& aOther) const
@@ -99,7 +104,7 @@ void TRE::InitNITFTreFieldsMap()
     if (m_parts->layout == nullptr) {
         return;
     }
-    const Detail::TreFault fault = Detail::TreMaker::Fit(*m_parts, *m_parts->layout, m_parts->fields->Store().Order());
+    const Detail::TreFault fault = Detail::TreMaker::Fit(*m_parts->fields, m_parts->Data(), *m_parts->layout);
     if (!fault.IsGood()) {
         fault.Throw(m_parts->tag);
     }
@@ -176,10 +181,10 @@ std::uint64_t TRE::GetFileOffset() const noexcept
 
 std::size_t TRE::GetLengthOfDataField() const noexcept
 {
-    return m_parts->Data().size();
+    return m_parts->Length();
 }
 
-const char* TRE::GetRawTREDataString(std::size_t& aLength) const noexcept
+const char* TRE::GetRawTREDataString(std::size_t& aLength) const
 {
     const std::string_view data = m_parts->Data();
     aLength = data.size();
@@ -386,7 +391,13 @@ bool TRE::Write(char** aOut) const
     if (aOut == nullptr) {
         return false;
     }
-    return Detail::HandOut(m_parts->text, aOut);
+    *aOut = Detail::NewArray<char>(HEADER_WIDTH + m_parts->Length() + 1);
+    if (*aOut == nullptr) {
+        return false;
+    }
+    std::copy_n(m_parts->text.data(), HEADER_WIDTH, *aOut);
+    m_parts->CopyData(*aOut + HEADER_WIDTH);
+    return true;
 }
 
 }  // namespace ORMO::SensorModel::CSM

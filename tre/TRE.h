@@ -119,8 +119,8 @@ public:
     bool IsGenericTRE() const noexcept;
     /// Bytes of data: the number in CEL or REL.
     std::size_t GetLengthOfDataField() const noexcept;
-    /// The data as received; NUL bytes may stand among them.
-    const char* GetRawTREDataString(std::size_t& aLength) const noexcept;
+    /// The data as received; NUL bytes may stand among them. Put together when first asked for.
+    const char* GetRawTREDataString(std::size_t& aLength) const;
     /// Field name to value; built on first use. Null when the TRE is generic.
     const FieldTexts* GetTREKeyValuePairsMap() const;
     /// Field name to width in bytes. Null when the TRE is generic.

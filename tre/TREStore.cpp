@@ -99,7 +99,7 @@ void TREStore::Reserve(std::size_t aMore)
         std::vector<TRE*>& tres = m_contents->tres;
         const std::size_t wanted = tres.size() + aMore;
         if (wanted > tres.capacity()) {
-            tres.reserve(std::max(wanted, tres.size() + tres.size() / 2 + 4));
+            tres.reserve(std::max(wanted, tres.size() + tres.size() / 2 + 8));
         }
     }
 }

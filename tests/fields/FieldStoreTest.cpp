@@ -77,9 +77,30 @@ TEST(FieldStoreTest, FindTellsAnEmptyValueFromAnAbsentField)
     EXPECT_TRUE(found);
     EXPECT_EQ(nullptr, walked.store.Find("E_2", found).data());
     EXPECT_FALSE(found);
-    EXPECT_EQ(1U, walked.store.EntriesOf(5).size());
+    EXPECT_TRUE(walked.store.Has(5));
+    EXPECT_FALSE(FieldStore().Has(0));
     EXPECT_EQ(nullptr, walked.store.Find("E_0"));
     EXPECT_EQ(nullptr, FieldStore().Find("E_1"));
+}
+
+TEST(FieldStoreTest, RowsOfATableWithoutRepeatsAreFoundAsEntriesInOrder)
+{
+    static constexpr FieldRow PLAIN_ROWS[] = {F("A", 1), When("A", "1"), F("B", 1), End(), F("C", 2), F("D", 1)};
+    static constexpr auto PLAIN = MakeTable(PLAIN_ROWS);
+    static_assert(PLAIN.wellFormed && !PLAIN.View().HasRepeats());
+    const FieldStore with = Walked(PLAIN.View(), "1bccd").store;
+    const FieldStore without = Walked(PLAIN.View(), "0ccd").store;
+    const FieldStore cut = Walked(PLAIN.View(), "0cc").store;
+    EXPECT_EQ("b", with.Value(*with.Find("B")));
+    EXPECT_EQ("d", with.Value(*with.Find("D")));
+    EXPECT_EQ("d", without.Value(*without.Find("D")));
+    EXPECT_EQ(nullptr, without.Find("B"));
+    EXPECT_EQ(nullptr, without.Find("D_1"));
+    EXPECT_EQ(nullptr, cut.Find("D"));
+    EXPECT_TRUE(without.Has(4));
+    EXPECT_FALSE(without.Has(2));
+    EXPECT_EQ(5U, with.Size());
+    EXPECT_EQ(3U, cut.Size());
 }
 
 TEST(FieldStoreTest, EqualityLooksAtTableFieldsAndValues)

@@ -302,8 +302,8 @@ TEST(FieldWalkTest, TableWithoutFieldsReadsNothing)
         EXPECT_EQ(0U, walked.result.consumed);
         EXPECT_TRUE(walked.store.IsEmpty());
         EXPECT_EQ(nullptr, walked.store.Find("A_1"));
-        EXPECT_TRUE(walked.store.EntriesOf(0).empty());
-        EXPECT_TRUE(walked.store.EntriesOf(NO_ROW).empty());
+        EXPECT_FALSE(walked.store.Has(0));
+        EXPECT_FALSE(walked.store.Has(NO_ROW));
     }
 }
 

@@ -243,6 +243,30 @@ TEST_F(TypedTreTest, RangeAndEditabilityAreAnsweredPerField)
     EXPECT_EQ("ERROR: Missing required field OFFSET::LINE", errors);
 }
 
+TEST_F(TypedTreTest, AnOptionalFieldOutOfRangeIsAWarningAndNotCounted)
+{
+    const OwnedTre event = Make("PIAEVA", "name" + std::string(34, ' ') + "NOTHING ");
+    ASSERT_FALSE(event->IsGenericTRE());
+    std::string errors;
+    EXPECT_EQ(0, event->ValidateFieldValues(errors));
+    EXPECT_THAT(errors, StartsWith("WARN: "));
+    EXPECT_THAT(errors, HasSubstr("PIAEVA::EVENTTYPE"));
+    // Nor does it keep the TRE from being typed.
+    TRE* out = nullptr;
+    TREFactory::Create("PIAEVA", ("name" + std::string(34, ' ') + "NOTHING ").c_str(), TRE::TRE_TYPE_UNKNOWN, &out,
+                       true, true, nullptr, 46);
+    EXPECT_NE(nullptr, OwnedTre(out));
+}
+
+TEST_F(TypedTreTest, DataInOnePieceAreThoseThatWereRead)
+{
+    std::size_t length = 0;
+    const char* const data = m_tre->GetRawTREDataString(length);
+    EXPECT_EQ(Data(), std::string(data, length));
+    EXPECT_EQ(Data().size(), m_tre->GetLengthOfDataField());
+    EXPECT_EQ(data, m_tre->GetRawTREDataString(length)) << "put together once";
+}
+
 TEST_F(TypedTreTest, ViewsAreParallelAndHelpTextsHaveTheFixedForm)
 {
     const auto& names = *m_tre->GetAllTreFields();

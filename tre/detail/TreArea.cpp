@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -76,14 +75,16 @@ public:
         if (m_rest.size() < HEADER_WIDTH) {
             return Step::End;
         }
-        // A NUL ends a tag, for tags are texts.
+        // A NUL ends a tag, for tags are texts. One of blanks ends the area; other white space around it is no part of
+        // it.
         std::string_view tag = m_rest.substr(0, TAG_WIDTH);
         tag = tag.substr(0, tag.find('\0'));
-        tag = tag.substr(0, tag.find_last_not_of(' ') + 1);
+        const bool blank = tag.find_first_not_of(' ') == std::string_view::npos;
+        tag = Trimmed(tag);
         m_tag = {};
         std::copy(tag.begin(), tag.end(), m_tag.begin());
         m_length = LengthOf(m_rest.substr(TAG_WIDTH, LENGTH_WIDTH));
-        if (m_length < 1 || tag.empty()) {
+        if (m_length < 1 || blank) {
             return Step::NoRecord;
         }
         if (m_rest.size() - HEADER_WIDTH < Length()) {
@@ -228,17 +229,14 @@ void ReportFault(AreaReport& aReport, const AreaWalk& aWalk, const TreFault& aFa
                 });
 }
 
-/// As TreMaker::Make; a tag that is none is a fault too.
-OwnedTre MakeGuarded(const KnownTag& aKnown, const TreRecord& aRecord, const AreaOptions& aOptions, TreFault& aFault)
+/// The fault of a tag that is none.
+TreFault NoTag()
 {
-    try {
-        return TreMaker::Make(aKnown, aRecord, aOptions.typedOnly, aOptions.validate, aFault);
-    } catch (const std::invalid_argument& exception) {
-        aFault.kind = TreFault::Kind::NoTag;
-        aFault.text = "WARN: An invalid_argument exception was caught while attempting to create TRE " +
-                      Quoted(aRecord.tag) + '.' + ErrorMessage(exception.what());
-        return nullptr;
-    }
+    TreFault fault;
+    fault.kind = TreFault::Kind::NoTag;
+    fault.text = "WARN: An invalid_argument exception was caught while attempting to create TRE \"\"." +
+                 ErrorMessage("ERROR: Input CETAG/RETAG cannot be NULL or an empty string.");
+    return fault;
 }
 
 }  // namespace
@@ -256,7 +254,12 @@ int ExtractTREs(std::string_view aArea, TREStore& aStore, const AreaOptions& aOp
         const TreRecord record{walk.Tag(), walk.Header(), walk.Data(), known.TypeOr(walk.Tag(), aPlace.unknownType),
                                aByteOrder};
         aStore.Reserve(1);
-        OwnedTre tre = MakeGuarded(known, record, aOptions, fault);
+        OwnedTre tre;
+        if (*walk.Tag() == '\0') {
+            fault = NoTag();
+        } else {
+            tre = TreMaker::Make(known, record, aOptions.typedOnly, aOptions.validate, fault);
+        }
         if (tre == nullptr || !fault.IsGood()) {
             ReportFault(report, walk, fault, tre != nullptr);
         }

@@ -45,6 +45,9 @@ struct TreFault
     void Describe(Finding& aFinding) const;
 };
 
+/// More data than a length field can say.
+TreFault TooLong(std::size_t aLength);
+
 /// "\nError message = "..."" for a message that there is.
 std::string ErrorMessage(const char* aMessage);
 

@@ -16,6 +16,41 @@ namespace ORMO::SensorModel::CSM {
 
 using Parts = TRE::Parts;
 
+Parts::Parts(const Parts& aOther)
+    : type(aOther.type),
+      code(aOther.code),
+      group(aOther.group),
+      name(aOther.name),
+      layout(aOther.layout),
+      text(aOther.text),
+      area(aOther.area),
+      offset(aOther.offset)
+{
+    std::copy(std::begin(aOther.tag), std::end(aOther.tag), tag);
+}
+
+std::unique_ptr<Parts> Parts::Copy() const
+{
+    return std::unique_ptr<Parts>(new Parts(*this));
+}
+
+void Parts::Begin(std::string_view aTag, std::string_view aHeader, std::size_t aLength, Type aType,
+                  std::size_t aTextSize)
+{
+    std::copy(aTag.begin(), aTag.end(), tag);
+    type = aType;
+    text.reserve(aTextSize);
+    if (aHeader.size() == HEADER_WIDTH) {
+        text = aHeader;
+        return;
+    }
+    text = aTag;
+    text.resize(TAG_WIDTH, ' ');
+    const std::string length = std::to_string(aLength);
+    text.append(LENGTH_WIDTH - length.size(), '0');
+    text += length;
+}
+
 std::unique_ptr<Parts> Parts::New(std::string_view aTag, std::string_view aHeader, std::string_view aData, Type aType)
 {
     const std::string_view tag = Detail::TrimmedEnd(aTag);
@@ -27,44 +62,36 @@ std::unique_ptr<Parts> Parts::New(std::string_view aTag, std::string_view aHeade
                                     std::to_string(TAG_WIDTH) + " characters.");
     }
     if (aData.size() > MOST_DATA) {
-        Detail::TreFault fault;
-        fault.kind = Detail::TreFault::Kind::TooLong;
-        fault.expected = MOST_DATA;
-        fault.found = aData.size();
-        fault.Throw(tag);
+        Detail::TooLong(aData.size()).Throw(tag);
     }
     auto parts = std::make_unique<Parts>();
-    std::copy(tag.begin(), tag.end(), parts->tag);
-    parts->type = aType;
-    std::string& text = parts->text;
-    text.reserve(HEADER_WIDTH + aData.size());
-    if (aHeader.size() == HEADER_WIDTH) {
-        text = aHeader;
-    } else {
-        text = tag;
-        text.resize(TAG_WIDTH, ' ');
-        const std::string length = std::to_string(aData.size());
-        text.append(LENGTH_WIDTH - length.size(), '0');
-        text += length;
-    }
-    text += aData;
+    parts->Begin(tag, aHeader, aData.size(), aType, HEADER_WIDTH + aData.size());
+    parts->text += aData;
     return parts;
 }
 
-std::unique_ptr<Parts> Parts::Copy() const
+std::string_view Parts::Data() const
 {
-    auto copy = std::make_unique<Parts>();
-    std::copy(std::begin(tag), std::end(tag), copy->tag);
-    copy->type = type;
-    copy->code = code;
-    copy->group = group;
-    copy->name = name;
-    copy->layout = layout;
-    copy->text = text;
-    copy->fields = fields == nullptr ? nullptr : std::make_unique<Detail::FieldRecord>(*fields);
-    copy->area = area;
-    copy->offset = offset;
-    return copy;
+    if (fields == nullptr) {
+        return std::string_view(text).substr(HEADER_WIDTH);
+    }
+    return Views().data.Get([this] {
+        std::string data(Length(), '\0');
+        CopyData(data.data());
+        return data;
+    });
+}
+
+void Parts::CopyData(char* aOut) const noexcept
+{
+    if (fields == nullptr) {
+        std::copy(text.begin() + HEADER_WIDTH, text.end(), aOut);
+        return;
+    }
+    for (const Detail::FieldEntry& entry : fields->Store().Entries()) {
+        const std::string_view value = fields->Store().Value(entry);
+        aOut = std::copy(value.begin(), value.end(), aOut);
+    }
 }
 
 namespace Detail {
@@ -116,30 +143,36 @@ OwnedTre AskProvider(const KnownTag& aKnown, const TreRecord& aRecord, bool aVal
     return tre;
 }
 
-/// The typed form of the parts, when their data fit the tag.
-OwnedTre MakeTyped(const KnownTag& aKnown, const TreRecord& aRecord, bool aValidate, std::unique_ptr<Parts>& aParts,
-                   TreFault& aFault)
+/// The typed form of a record, when its data fit the tag.
+OwnedTre MakeTyped(const KnownTag& aKnown, const TreRecord& aRecord, bool aValidate, TreFault& aFault)
 {
-    aFault = TreMaker::Fit(*aParts, LayoutOfRecord(aKnown.entry->layout(), aRecord.data, aRecord.order), aRecord.order);
+    const TreLayout& layout = LayoutOfRecord(aKnown.entry->layout(), aRecord.data, aRecord.order);
+    aFault = TreMaker::CheckLength(aRecord.data.size(), layout);
+    if (!aFault.IsGood()) {
+        return nullptr;
+    }
+    auto parts = std::make_unique<TypedParts>(layout.table, aRecord.order);
+    aFault = TreMaker::Fit(parts->record, aRecord.data, layout);
     if (aFault.IsGood() && aValidate) {
         Finding place;
-        place.owner = aParts->tag;
+        place.owner = aRecord.tag;
         FindingList problems;
-        aParts->fields->Check(place, problems);
+        parts->record.Check(place, problems);
         if (problems.Errors() != 0) {
             aFault.kind = TreFault::Kind::Values;
             aFault.found = problems.Errors();
             AppendProblemLines(problems, aFault.text);
-            aParts->fields.reset();
-            aParts->layout = nullptr;
         }
     }
     if (!aFault.IsGood()) {
         return nullptr;
     }
-    aParts->type = aKnown.entry->type;
-    aParts->group = aKnown.group;
-    return Own(aKnown.entry->make, std::move(aParts));
+    parts->Begin(aKnown.entry->tag, aRecord.header, aRecord.data.size(), aKnown.entry->type, Parts::HEADER_WIDTH);
+    parts->code = aKnown.entry->code;
+    parts->group = aKnown.group;
+    parts->name = layout.name;
+    parts->layout = &layout;
+    return Own(aKnown.entry->make, std::move(parts));
 }
 
 }  // namespace
@@ -168,32 +201,41 @@ TRE::Type KnownTag::TypeOr(const char* aTag, TRE::Type aUnknown) const
     return type == TRE::TRE_TYPE_UNKNOWN ? aUnknown : type;
 }
 
-TreFault TreMaker::Fit(Parts& aParts, const TreLayout& aLayout, Util::CSMCnst::ByteOrder aOrder)
+TreFault TooLong(std::size_t aLength)
+{
+    TreFault fault;
+    fault.kind = TreFault::Kind::TooLong;
+    fault.expected = Parts::MOST_DATA;
+    fault.found = aLength;
+    return fault;
+}
+
+TreFault TreMaker::CheckLength(std::size_t aLength, const TreLayout& aLayout)
+{
+    if (aLength > Parts::MOST_DATA) {
+        return TooLong(aLength);
+    }
+    TreFault fault;
+    fault.kind = aLayout.length != 0 && aLength != aLayout.length ? TreFault::Kind::Length : TreFault::Kind::None;
+    fault.expected = aLayout.length;
+    fault.found = aLength;
+    return fault;
+}
+
+TreFault TreMaker::Fit(FieldRecord& aFields, std::string_view aData, const TreLayout& aLayout)
 {
     TreFault fault;
     fault.layout = &aLayout;
-    const std::string_view data = aParts.Data();
-    fault.found = data.size();
-    fault.expected = aLayout.length;
-    if (aLayout.length != 0 && data.size() != aLayout.length) {
-        fault.kind = TreFault::Kind::Length;
-        return fault;
-    }
-    auto fields = std::make_unique<FieldRecord>(aLayout.table, aOrder);
-    fault.walk = fields->Read(data);
+    fault.walk = aFields.Read(aData);
     if (!fault.walk.IsGood()) {
         fault.kind = TreFault::Kind::Fields;
-        fault.found = fields->Store().Entries().size();
+        fault.found = aFields.Store().Entries().size();
         fault.expected = std::max<std::uint64_t>(aLayout.table.FieldCount(), fault.found + 1);
-        return fault;
-    }
-    if (fault.walk.consumed != data.size()) {
+    } else if (fault.walk.consumed != aData.size()) {
         fault.kind = TreFault::Kind::Length;
         fault.expected = fault.walk.consumed;
-        return fault;
+        fault.found = aData.size();
     }
-    aParts.fields = std::move(fields);
-    aParts.layout = &aLayout;
     return fault;
 }
 
@@ -201,24 +243,22 @@ OwnedTre TreMaker::Make(const KnownTag& aKnown, const TreRecord& aRecord, bool a
                         TreFault& aFault)
 {
     aFault = {};
+    OwnedTre tre;
+    const bool typed = aKnown.entry != nullptr && aKnown.entry->IsTyped();
     if (aKnown.special != nullptr) {
-        OwnedTre tre = AskProvider(aKnown, aRecord, aValidate, aFault);
-        if (tre != nullptr) {
-            return tre;
-        }
+        tre = AskProvider(aKnown, aRecord, aValidate, aFault);
+    } else if (typed) {
+        tre = MakeTyped(aKnown, aRecord, aValidate, aFault);
+    }
+    if (tre != nullptr || aTypedOnly) {
+        return tre;
     }
     auto parts = Parts::New(aRecord.tag, aRecord.header, aRecord.data, aRecord.type);
     if (aKnown.entry != nullptr) {
         parts->code = aKnown.entry->code;
-        parts->name = aKnown.entry->IsTyped() ? aKnown.entry->layout().name : nullptr;
-        if (aKnown.special == nullptr && aKnown.entry->IsTyped()) {
-            OwnedTre tre = MakeTyped(aKnown, aRecord, aValidate, parts, aFault);
-            if (tre != nullptr) {
-                return tre;
-            }
-        }
+        parts->name = typed ? aKnown.entry->layout().name : nullptr;
     }
-    return aTypedOnly ? nullptr : Own(&Parts::NewGeneric, std::move(parts));
+    return Own(&Parts::NewGeneric, std::move(parts));
 }
 
 OwnedTre TreMaker::Clone(const TRE& aSource)
@@ -255,7 +295,7 @@ void TreMaker::Check(const TRE& aTre, Finding aPlace, FindingList& aFindings)
     aPlace.owner = parts.tag;
     aPlace.tre = parts.tag;
     aPlace.area = parts.area;
-    aPlace.offset = parts.area[0] == '\0' ? Finding::NO_OFFSET : parts.offset + Parts::HEADER_WIDTH;
+    aPlace.offset = *parts.area == '\0' ? Finding::NO_OFFSET : parts.offset + Parts::HEADER_WIDTH;
     parts.fields->Check(aPlace, aFindings);
 }
 

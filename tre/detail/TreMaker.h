@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fields/FieldRecord.h"
 #include "tre/SupportedTreFactory.h"
 #include "tre/TRE.h"
 #include "tre/detail/TreFault.h"
@@ -85,8 +86,10 @@ public:
                          TreFault& aFault);
     /// A copy of the same class; null when the maker of the source refuses.
     static OwnedTre Clone(const TRE& aSource);
-    /// Cuts the data into the fields of the layout. Nothing is kept of data that do not fit.
-    static TreFault Fit(TRE::Parts& aParts, const TreLayout& aLayout, Util::CSMCnst::ByteOrder aOrder);
+    /// Whether a record of the layout can have that many bytes of data.
+    static TreFault CheckLength(std::size_t aLength, const TreLayout& aLayout);
+    /// Cuts data into the fields of a record of that layout; on a fault the record is of no use.
+    static TreFault Fit(FieldRecord& aFields, std::string_view aData, const TreLayout& aLayout);
     /// Says where in the file the TRE was found; the name must live as long as the process.
     static void SetPlace(TRE& aTre, const char* aArea, std::uint64_t aFileOffset) noexcept;
     /// Sets who made the TRE of a special provider.

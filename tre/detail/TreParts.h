@@ -28,31 +28,64 @@ struct TRE::Parts
     /// Which special providers made the object and alone can copy and release it; unknown for all others. It belongs to
     /// the object, whatever is assigned to it.
     SupportedTreFactory::Enum maker = SupportedTreFactory::UNKNOWN;
-    const char* name = nullptr;                   ///< long name, as the tag has it; null when it has none
-    const Layout* layout = nullptr;               ///< of a typed TRE
-    std::string text;                             ///< tag, length and data as they stand in a file
-    std::unique_ptr<Detail::FieldRecord> fields;  ///< of a typed TRE
+    const char* name = nullptr;      ///< long name, as the tag has it; null when it has none
+    const Layout* layout = nullptr;  ///< of a typed TRE
+    /// Tag and length as they stand in a file; of a generic TRE the data too. Those of a typed one are its fields.
+    std::string text;
+    Detail::FieldRecord* fields = nullptr;  ///< of a typed TRE
     const char* area = "";
-    std::uint64_t offset = 0;  ///< of the text in its file
+    std::uint64_t offset = 0;  ///< of the record in its file
     Detail::Lazy<Detail::TreViews> views;
 
-    std::string_view Data() const noexcept { return std::string_view(text).substr(HEADER_WIDTH); }
+    Parts() = default;
+    Parts& operator=(const Parts&) = delete;
+    virtual ~Parts() = default;
+
+    std::size_t Length() const noexcept
+    {
+        return fields == nullptr ? text.size() - HEADER_WIDTH : fields->Store().Size();
+    }
+    /// The data in one piece, which is made of the fields when it is first asked for.
+    std::string_view Data() const;
+    /// Writes that many bytes.
+    void CopyData(char* aOut) const noexcept;
     const Detail::TreViews& Views() const
     {
         return views.Get([] { return Detail::TreViews(); });
     }
     /// The same again, but without a maker.
-    std::unique_ptr<Parts> Copy() const;
+    virtual std::unique_ptr<Parts> Copy() const;
 
-    /// The parts of a generic TRE. `aHeader` is tag and length as they were received; without it they are composed.
-    /// Raises std::invalid_argument when the tag is missing or too long, or the data are too long.
+    /// Sets tag, type, and tag and length as they were received, or as they are composed for that many bytes of data.
+    /// `aTextSize` is the size that the text is to have in the end.
+    void Begin(std::string_view aTag, std::string_view aHeader, std::size_t aLength, Type aType, std::size_t aTextSize);
+    /// The parts of a generic TRE. Raises std::invalid_argument when the tag is missing or too long, or the data are
+    /// too long.
     static std::unique_ptr<Parts> New(std::string_view aTag, std::string_view aHeader, std::string_view aData,
                                       Type aType);
 
     static const Parts& Of(const TRE& aTre) noexcept { return *aTre.m_parts; }
     static Parts& Of(TRE& aTre) noexcept { return *aTre.m_parts; }
-    /// The constructors that make and copy a TRE without a class of its own.
+    /// Makes a TRE without a class of its own.
     static TRE* NewGeneric(Parts& aParts) { return new TRE(aParts); }
+
+protected:
+    Parts(const Parts& aOther);
 };
 
+namespace Detail {
+
+/// The parts of a typed TRE with its fields in one block of memory.
+struct TypedParts final : TRE::Parts
+{
+    FieldRecord record;
+
+    TypedParts(const FieldTable& aTable, FieldStore::ByteOrder aOrder) : record(aTable, aOrder) { fields = &record; }
+    std::unique_ptr<Parts> Copy() const override { return std::unique_ptr<Parts>(new TypedParts(*this)); }
+
+private:
+    TypedParts(const TypedParts& aOther) : Parts(aOther), record(aOther.record) { fields = &record; }
+};
+
+}  // namespace Detail
 }  // namespace ORMO::SensorModel::CSM

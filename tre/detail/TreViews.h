@@ -29,6 +29,7 @@ struct RpcCoefficients
 /// asked for; the rows stay the truth.
 struct TreViews
 {
+    Lazy<std::string> data;
     Lazy<TextList> names;
     Lazy<TextList> helps;
     Lazy<std::vector<bool>> binary;
