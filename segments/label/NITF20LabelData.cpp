@@ -84,8 +84,10 @@ void NITF20LabelData::GetUpperLeftCorner(long& aRow, long& aColumn) const noexce
 NITF20LabelData::Cell NITF20LabelData::ShownCell() const noexcept
 {
     const int height = m_cellHeight == 0 ? DEFAULT_CELL : m_cellHeight;
-    const int capitals = std::max(1, (7 * height + 5) / 10);
-    return {height, capitals, m_cellWidth == 0 ? std::max(1, capitals) : m_cellWidth};
+    // Courier is nearly as wide as its capitals are high, so these letters stay inside their cells.
+    const int tallest = std::max(1, (7 * height + 5) / 10);
+    const int capitals = m_cellWidth == 0 ? tallest : std::min(tallest, m_cellWidth);
+    return {height, capitals, m_cellWidth == 0 ? capitals : m_cellWidth};
 }
 
 std::string NITF20LabelData::ConvertToCGM(int aNumber) const

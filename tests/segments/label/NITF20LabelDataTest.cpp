@@ -37,6 +37,7 @@ TEST(NITF20LabelDataTest, BecomesAMetafileInCourierBold)
     const std::string high = ClearText(Metafile(Label("x", 40).ConvertToCGM(1)));
     EXPECT_THAT(high, HasSubstr("CHARHEIGHT 28;\n"));
     EXPECT_THAT(high, HasSubstr("TEXT (0,34) final x;\n"));
+    EXPECT_THAT(ClearText(Metafile(Label("x", 40, 9).ConvertToCGM(1))), HasSubstr("CHARHEIGHT 9;\n"));
     EXPECT_NE("", Label(std::string(320, 'x'), 1).ConvertToCGM(1));
     EXPECT_NE("", Label("").ConvertToCGM(1));
     EXPECT_EQ("", Label(std::string(70000, 'x')).ConvertToCGM(1));
