@@ -19,6 +19,7 @@ enum class PieceKind : std::uint8_t
     Number,     ///< digits with bounds
     Month,      ///< three letters
     Degrees,    ///< a run of d
+    Location,   ///< a row or a column: five digits, or a sign and four
     Character,  ///< one character
     Broken      ///< a letter of a piece that stands alone
 };
@@ -33,7 +34,9 @@ struct Piece
 };
 
 // Longer pieces first: CCYY before YY, the letters of a month before its number.
-constexpr std::array<Piece, 12> PIECES{{{PieceKind::Number, "CCYY", 0, 9999},
+constexpr std::array<Piece, 14> PIECES{{{PieceKind::Location, "rrrrr", 0, 0},
+                                        {PieceKind::Location, "ccccc", 0, 0},
+                                        {PieceKind::Number, "CCYY", 0, 9999},
                                         {PieceKind::Number, "YYYY", 0, 9999},
                                         {PieceKind::Number, "YY", 0, 99},
                                         {PieceKind::Month, "MON", 0, 0},
@@ -132,6 +135,8 @@ bool PictureReader::Matches(const Piece& aPiece, std::string_view aText) noexcep
     switch (aPiece.kind) {
         case PieceKind::Month:
             return IsMonth(aText);
+        case PieceKind::Location:
+            return ToNumber(aText.substr(aText.front() == '-' || aText.front() == '+' ? 1 : 0), number);
         case PieceKind::Degrees:
             m_isFull = ToNumber(aText, number) && number == aPiece.high;
             return ToNumber(aText, number) && number <= aPiece.high;

@@ -35,10 +35,10 @@ enum class Verdict : std::uint8_t
 
 /// True when the value is written as the picture says:
 /// CCYY, YYYY, YY year; MM month; MON or MMM month in three capital letters; DD day; hh or HH hour; mm minute;
-/// ss or SS second; a run of d degrees, two for a latitude and three for a longitude, with mm and ss behind them an
-/// angle; X is N or S; Y is E or W; + is a sign; n, e, f, z and, behind a point, s, S and d a digit; B, J, K, L a
-/// capital letter; x a hexadecimal digit; every other character stands for itself. A pair of a date or time may be two
-/// hyphens: it is unknown. The fraction of a time may end in hyphens.
+/// ss or SS second; rrrrr row and ccccc column of a location; a run of d degrees, two for a latitude and three for a
+/// longitude, with mm and ss behind them an angle; X is N or S; Y is E or W; + is a sign; n, e, f, z and, behind a
+/// point, s, S and d a digit; B, J, K, L a capital letter; x a hexadecimal digit; every other character stands for
+/// itself. A pair of a date or time may be two hyphens: it is unknown. The fraction of a time may end in hyphens.
 [[nodiscard]] bool PictureMatches(std::string_view aPicture, std::string_view aValue) noexcept;
 
 /// True when every character of the picture has a meaning and no letter of a date, time or angle stands alone.

@@ -5,8 +5,11 @@
 #include "../segments/NITFStdDataSegmentInfo.h"
 #include "../segments/des/NITFDESSubheader.h"
 #include "../segments/fileheader/NITFFileHeader.h"
+#include "../segments/graphic/NITF21GraphicSubheader.h"
 #include "../segments/image/NITFImageSubheader.h"
+#include "../segments/label/NITF20LabelSubheader.h"
 #include "../segments/res/NITFRESSubheader.h"
+#include "../segments/symbol/NITF20SymbolSubheader.h"
 #include "../segments/text/NITFTextSubheader.h"
 #include "ImageSupportData.h"
 
@@ -70,10 +73,29 @@ public:
     long GetNumOfImageSegments() const override;
     const NITFImageSubheader* GetImageSubheader(std::size_t aIndex) const noexcept;
     const NITFTextSubheader* GetTextSubheader(std::size_t aIndex) const noexcept;
+    /// NITF 2.1 and NSIF 1.0.
+    const NITF21GraphicSubheader* GetGraphicSubheader(std::size_t aIndex) const noexcept;
+    /// NITF 2.0.
+    const NITF20SymbolSubheader* GetSymbolSubheader(std::size_t aIndex) const noexcept;
+    /// NITF 2.0.
+    const NITF20LabelSubheader* GetLabelSubheader(std::size_t aIndex) const noexcept;
     const NITFDESSubheader* GetDataExtensionSegment(std::size_t aIndex) const noexcept;
     const NITFRESSubheader* GetReservedExtensionSegment(std::size_t aIndex) const noexcept;
     /// The segment of a kind; the file header is the one segment of its kind. Null also for kinds that are not read.
     const NITFFieldSegment* GetSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const noexcept;
+
+    // What is drawn over the images: graphics, or symbols and labels.
+    /// Whether the file has any of them.
+    bool HasGraphicalData() const noexcept;
+    /// Graphics, or symbols and labels, in file order; those that could not be read are left out.
+    std::vector<const NITFDrawnSegment*> GetDrawnSegments() const;
+    /// The metafiles of them in file order, those that labels are made into included. They belong to the segments.
+    std::vector<const NITFCGMMetaFile*> GetAllCGMMetaFiles() const;
+    std::size_t GetNumOfCGMMetaFiles() const { return GetAllCGMMetaFiles().size(); }
+    /// Images, graphics, symbols and labels in the order in which they are drawn, one over the other: by display level,
+    /// equal ones in file order.
+    std::vector<const NITFFieldSegment*> GetDisplayableDataSegmentOrderedByDisplayLevels() const;
+
     /// The TREs of a segment by tag, as NITFStdDataSegment::GetTRE; false when there is no such segment.
     bool GetDataSegmentTRE(NITFCnst::DataSegmentType aKind, std::size_t aIndex, const char* aTag, const TRE**& aArray,
                            std::size_t& aCount, bool aIncludeOverflow) const;

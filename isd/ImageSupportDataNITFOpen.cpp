@@ -51,6 +51,7 @@ public:
         if (m_request.wrapped != nullptr) {
             Detail::AddTresOfRecords(*m_request.wrapped, m_parts, m_findings);
         }
+        Detail::PlaceDrawnSegments(m_parts, m_findings);
         if (m_request.imageSegmentsOnly) {
             DropOthers();
         }
@@ -67,6 +68,7 @@ private:
     void ReadSegments();
     void ReadSegment(const Info& aInfo, std::unique_ptr<NITFFieldSegment>& aSegment);
     bool IsWanted(const Info& aInfo) const;
+    bool IsDrawn(NITFCnst::DataSegmentType aKind) const;
     void DropOthers();
     std::string_view Subheader(const Info& aInfo);
     void AddError(const Info& aInfo, const std::string& aText);
@@ -77,7 +79,7 @@ private:
     // The part of the file that was read last: small segments stand close together.
     std::string m_window;
     std::uint64_t m_windowStart = 0;
-    std::set<std::uint64_t> m_overflowOfImages;
+    std::set<std::uint64_t> m_overflowOfDrawn;
 };
 
 void FileReader::ReadHeader()
@@ -176,12 +178,19 @@ bool FileReader::IsWanted(const Info& aInfo) const
         aInfo.GetDataSegmentType() != NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION) {
         return false;  // no CSM API ISD carries it
     }
-    if (!m_request.imageSegmentsOnly || aInfo.GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE) {
+    if (!m_request.imageSegmentsOnly || IsDrawn(aInfo.GetDataSegmentType())) {
         return true;
     }
-    // What did not fit into an image is the image's all the same.
+    // What did not fit into an image or a graphic is its own all the same.
     return aInfo.GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION &&
-           m_overflowOfImages.count(static_cast<std::uint64_t>(aInfo.GetSegmentIndex()) + 1) != 0;
+           m_overflowOfDrawn.count(static_cast<std::uint64_t>(aInfo.GetSegmentIndex()) + 1) != 0;
+}
+
+/// What lies over images belongs to them, whoever asks for images only.
+bool FileReader::IsDrawn(NITFCnst::DataSegmentType aKind) const
+{
+    const Detail::SegmentKind* const kind = Detail::FindKind(aKind, m_parts.Version());
+    return kind != nullptr && kind->drawing.displayLevel != nullptr;
 }
 
 void FileReader::ReadSegments()
@@ -200,7 +209,7 @@ void FileReader::ReadSegments()
         const NITFFieldSegment* const segment = m_parts.segments[i].get();
         if (m_request.imageSegmentsOnly && segment != nullptr) {
             for (const Detail::ExtensionArea& area : segment->Inside().layout->kind->areas) {
-                m_overflowOfImages.insert(segment->Inside().Number(area.overflow));
+                m_overflowOfDrawn.insert(segment->Inside().Number(area.overflow));
             }
         }
     }
@@ -274,7 +283,7 @@ void FileReader::ReadSegment(const Info& aInfo, std::unique_ptr<NITFFieldSegment
 void FileReader::DropOthers()
 {
     for (std::unique_ptr<NITFFieldSegment>& segment : m_parts.segments) {
-        if (segment != nullptr && segment->GetDataSegmentType() != NITFCnst::DATA_SEGMENT_TYPE_IMAGE) {
+        if (segment != nullptr && !IsDrawn(segment->GetDataSegmentType())) {
             segment.reset();
         }
     }

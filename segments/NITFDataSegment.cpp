@@ -110,6 +110,7 @@ std::string NITFDataSegment::DataFaultText() const
 }
 
 void NITFDataSegment::AppendDataElements(std::string&) const {}
+void NITFDataSegment::AppendElementsAfterTREs(std::string&) const {}
 
 std::string_view NITFDataSegment::FieldLeftOut() const noexcept
 {
@@ -197,6 +198,7 @@ std::string NITFDataSegment::Xml(const std::string& aIndent, int aIndex) const
     AppendFieldElements(xml, FieldLeftOut());
     AppendDataElements(xml);
     AppendTREElements(xml);
+    AppendElementsAfterTREs(xml);
     xml += aIndent + "</" + element + ">\n";
     return xml;
 }

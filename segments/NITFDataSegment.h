@@ -44,6 +44,8 @@ protected:
     virtual std::string DataFaultText() const;
     /// The elements between the fields and the TREs.
     virtual void AppendDataElements(std::string& aXml) const;
+    /// The elements behind the TREs.
+    virtual void AppendElementsAfterTREs(std::string& aXml) const;
     /// The field whose element AppendDataElements writes in another form; empty for none.
     virtual std::string_view FieldLeftOut() const noexcept;
 

@@ -5,6 +5,7 @@
 #include "foundation/CSMExceptions.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
+#include "segments/detail/Location.h"
 #include "segments/detail/SegmentLayout.h"
 #include "tre/detail/TreArea.h"
 
@@ -195,6 +196,62 @@ bool NITFFieldSegment::SetAttachmentLevel()
     }
     SetLevels(GetDataSegmentDisplayLevel(), level);
     return true;
+}
+
+bool NITFFieldSegment::GetLocation(long& aRow, long& aColumn) const noexcept
+{
+    const char* const tag = m_parts->layout->kind->drawing.location;
+    return tag != nullptr && Detail::SplitLocation(FieldText(tag), aRow, aColumn);
+}
+
+long NITFFieldSegment::GetLOCRowValue() const
+{
+    long row = 0;
+    long column = 0;
+    static_cast<void>(GetLocation(row, column));
+    return row;
+}
+
+long NITFFieldSegment::GetLOCColumnValue() const
+{
+    long row = 0;
+    long column = 0;
+    static_cast<void>(GetLocation(row, column));
+    return column;
+}
+
+bool NITFFieldSegment::GetCCSColumnAndRow(long& aColumn, long& aRow) const
+{
+    if (!GetLocation(aRow, aColumn)) {
+        return NITFStdDataSegment::GetCCSColumnAndRow(aColumn, aRow);
+    }
+    aColumn += NITFStdDataSegment::GetCCSColumnValue();
+    aRow += NITFStdDataSegment::GetCCSRowValue();
+    return m_parts->placed || GetDataSegmentAttachmentLevel() == 0;
+}
+
+long NITFFieldSegment::GetCCSRowValue() const
+{
+    return GetLOCRowValue() + NITFStdDataSegment::GetCCSRowValue();
+}
+
+long NITFFieldSegment::GetCCSColumnValue() const
+{
+    return GetLOCColumnValue() + NITFStdDataSegment::GetCCSColumnValue();
+}
+
+bool NITFFieldSegment::GetCommonCoordinateSys(long& aRow, long& aColumn, long& aCCSRow, long& aCCSColumn) const
+{
+    if (!GetLocation(aRow, aColumn)) {
+        return NITFStdDataSegment::GetCommonCoordinateSys(aRow, aColumn, aCCSRow, aCCSColumn);
+    }
+    return GetCCSColumnAndRow(aCCSColumn, aCCSRow);
+}
+
+void NITFFieldSegment::SetAttachedTo(long aColumn, long aRow) noexcept
+{
+    SetCCSOffsets(aColumn, aRow);
+    m_parts->placed = true;
 }
 
 void NITFFieldSegment::ReadTREs(Input& aInput)

@@ -56,6 +56,21 @@ public:
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
     const std::vector<const char*>* GetAllFieldTags() const override;
 
+    /// Row and column of the location field, relative to what the segment is attached to. False when the header has no
+    /// such field or no two numbers within the standard's limits stand in it.
+    bool GetLocation(long& aRow, long& aColumn) const noexcept;
+    long GetLOCRowValue() const override;
+    long GetLOCColumnValue() const override;
+    /// Where the location is in the common coordinate system; false for a header without a location, and as long as it
+    /// is not known where the segment stands to which this one is attached.
+    bool GetCCSColumnAndRow(long& aColumn, long& aRow) const override;
+    long GetCCSRowValue() const override;
+    long GetCCSColumnValue() const override;
+    /// The location as it is given, then in the common coordinate system.
+    bool GetCommonCoordinateSys(long& aRow, long& aColumn, long& aCCSRow, long& aCCSColumn) const override;
+    /// For the owner of the file: where the segment stands to which this one is attached.
+    virtual void SetAttachedTo(long aColumn, long aRow) noexcept;
+
     /// Number of fields that were read.
     std::size_t GetNumOfFields() const noexcept;
     /// One field by its place in the header, without building any map.

@@ -14,6 +14,8 @@ int Validate(const std::vector<std::string>& aFiles, bool aXml);
 int Describe(const std::string& aTag, const std::string& aField);
 /// Loads the libraries first, as a host would load plug-ins.
 int Plugin(const std::vector<std::string>& aLibraries);
+/// The clear text, or with `aSvg` a drawing, of the graphics, symbols and labels; of one of them with an index.
+int Cgm(const std::string& aFile, int aIndex, bool aSvg, const std::string& aOut);
 int Extract(const std::string& aFile, const std::string& aKind, unsigned aIndex, const std::string& aOut);
 
 }  // namespace OrmoNitf

@@ -9,7 +9,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <string_view>
@@ -29,18 +28,7 @@ int Xml(const std::string& aFile, bool aImagesOnly, const std::string& aOut)
         PrintProblem(aFile, "ERROR: The document cannot be written.");
         return EXIT_FILE_HAS_ERRORS;
     }
-    if (aOut.empty()) {
-        std::cout << document;
-        return EXIT_DONE;
-    }
-    std::ofstream out(aOut, std::ios::binary);
-    out << document;
-    out.close();
-    if (!out) {
-        PrintProblem(aOut, "ERROR: The document cannot be written to this file.");
-        return EXIT_WRONG_USE;
-    }
-    return EXIT_DONE;
+    return WriteText(document, aOut);
 }
 
 int Validate(const std::vector<std::string>& aFiles, bool aXml)

@@ -1,8 +1,10 @@
+#include "segments/cgm/NITFCGMMetaFile.h"
 #include "segments/des/DesXmlProduct.h"
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 
 #include <iostream>
+#include <map>
 #include <sstream>
 #include <string_view>
 #include <utility>
@@ -114,6 +116,70 @@ void PrintXmlProduct(std::ostream& aOut, const NITFDESSubheader& aDes)
     aOut << '\n';
 }
 
+/// Where a graphic, symbol or label stands and what it draws.
+void PrintDrawn(std::ostream& aOut, const NITFDrawnSegment& aSegment)
+{
+    long row = 0;
+    long column = 0;
+    const bool placed = aSegment.GetCCSColumnAndRow(column, row);
+    aOut << ", level " << aSegment.GetDataSegmentDisplayLevel();
+    if (placed) {
+        aOut << ", at row " << row << " column " << column;
+    }
+    if (const NITFCGMMetaFile* const metafile = aSegment.GetCGMMetaFile(); metafile != nullptr) {
+        aOut << ", " << metafile->GetAllGraphicalPrimitiveElements().size() << " primitives";
+        if (metafile->GetNumSkippedGraphicalPrimitives() != 0) {
+            aOut << " and " << metafile->GetNumSkippedGraphicalPrimitives() << " outside the NITF profile";
+        }
+    }
+}
+
+/// Runs of drawn segments are folded: a chart may have hundreds of symbols.
+constexpr std::size_t MOST_IN_A_ROW = 4;
+
+/// How many segments from a place on are drawn ones of one kind.
+std::size_t RunOf(const std::vector<const NITFStdDataSegmentInfo*>& aInfos, std::size_t aFrom,
+                  const ImageSupportDataNITF& aIsd)
+{
+    const NITFCnst::DataSegmentType kind = aInfos[aFrom]->GetDataSegmentType();
+    std::size_t count = 0;
+    while (aFrom + count != aInfos.size() && aInfos[aFrom + count]->GetDataSegmentType() == kind &&
+           dynamic_cast<const NITFDrawnSegment*>(
+               aIsd.GetSegment(kind, static_cast<std::size_t>(aInfos[aFrom + count]->GetSegmentIndex()))) != nullptr) {
+        ++count;
+    }
+    return count;
+}
+
+/// A run in one line, and a line for each tag of its TREs.
+void PrintRun(std::ostream& aOut, const std::vector<const NITFStdDataSegmentInfo*>& aInfos, std::size_t aFrom,
+              std::size_t aCount, const ImageSupportDataNITF& aIsd)
+{
+    const NITFCnst::DataSegmentType kind = aInfos[aFrom]->GetDataSegmentType();
+    std::uint64_t bytes = 0;
+    std::size_t primitives = 0;
+    std::map<std::string, std::size_t> tags;
+    for (std::size_t i = aFrom; i != aFrom + aCount; ++i) {
+        const auto index = static_cast<std::size_t>(aInfos[i]->GetSegmentIndex());
+        const auto& segment = dynamic_cast<const NITFDrawnSegment&>(*aIsd.GetSegment(kind, index));
+        bytes += aInfos[i]->GetSegmentDataSize();
+        if (segment.GetCGMMetaFile() != nullptr) {
+            primitives += segment.GetCGMMetaFile()->GetAllGraphicalPrimitiveElements().size();
+        }
+        for (const TREStore* const store : {&segment.GetTREStore(), &segment.GetOverflowTREStore()}) {
+            for (const TRE* const tre : store->InOrder()) {
+                ++tags[Shown(tre->GetTag())];
+            }
+        }
+    }
+    aOut << "  " << NITFStdDataSegment::GetDataSegmentName(kind) << ' ' << aInfos[aFrom]->GetSegmentIndex() << " to "
+         << aInfos[aFrom + aCount - 1]->GetSegmentIndex() << ": " << aCount << " segments, " << bytes << " bytes, "
+         << primitives << " primitives\n";
+    for (const auto& [tag, count] : tags) {
+        aOut << "    TRE " << tag << ", " << count << " of them\n";
+    }
+}
+
 /// A word for a segment that is no image, and what names it best.
 void PrintOther(std::ostream& aOut, const NITFStdDataSegmentInfo& aInfo, const NITFFieldSegment* aSegment)
 {
@@ -126,6 +192,9 @@ void PrintOther(std::ostream& aOut, const NITFStdDataSegmentInfo& aInfo, const N
                 aOut << ", " << Shown(text);
             }
         }
+    }
+    if (const auto* const drawn = dynamic_cast<const NITFDrawnSegment*>(aSegment); drawn != nullptr) {
+        PrintDrawn(aOut, *drawn);
     }
     aOut << '\n';
     if (aSegment != nullptr) {
@@ -144,7 +213,14 @@ void PrintFile(std::ostream& aOut, const std::string& aPath, const ImageSupportD
     Line(aOut, "station", header.FieldText("OSTAID"));
     Line(aOut, "originator", header.FieldText("ONAME"));
     PrintTREs(aOut, header);
-    for (const NITFStdDataSegmentInfo* const info : aIsd.GetSegmentInfos().InFileOrder()) {
+    const std::vector<const NITFStdDataSegmentInfo*>& infos = aIsd.GetSegmentInfos().InFileOrder();
+    for (std::size_t i = 0; i != infos.size(); ++i) {
+        if (const std::size_t run = RunOf(infos, i, aIsd); run > MOST_IN_A_ROW) {
+            PrintRun(aOut, infos, i, run, aIsd);
+            i += run - 1;
+            continue;
+        }
+        const NITFStdDataSegmentInfo* const info = infos[i];
         const auto index = static_cast<std::size_t>(info->GetSegmentIndex());
         const NITFImageSubheader* const image =
             info->GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE ? aIsd.GetImageSubheader(index) : nullptr;

@@ -5,6 +5,7 @@
 #include "isd/ImageSupportDataNITFFactory.h"
 #include "raster/GDALNITFFileReader.h"
 
+#include <fstream>
 #include <iostream>
 #include <new>
 #include <stdexcept>
@@ -18,6 +19,22 @@ void IsdDestroyer::operator()(ImageSupportDataNITF* aIsd) const
 {
     ImageSupportData* isd = aIsd;
     ImageSupportDataFactory::Destroy(&isd);
+}
+
+int WriteText(std::string_view aText, const std::string& aOut)
+{
+    if (aOut.empty()) {
+        std::cout << aText;
+        return EXIT_DONE;
+    }
+    std::ofstream out(aOut, std::ios::binary);
+    out << aText;
+    out.close();
+    if (!out) {
+        PrintProblem(aOut, "ERROR: The document cannot be written to this file.");
+        return EXIT_WRONG_USE;
+    }
+    return EXIT_DONE;
 }
 
 void PrintProblem(const std::string& aPath, const std::string& aText)

@@ -25,6 +25,8 @@ int Run(int aCount, char** aArguments)
     std::string field;
     std::string kind;
     unsigned index = 0;
+    bool asSvg = false;
+    int drawn = -1;
 
     auto* const info = app.add_subcommand("info", "What a person wants to see first");
     info->add_option("FILE", files, "NITF or NSIF files")->required();
@@ -49,6 +51,14 @@ int Run(int aCount, char** aArguments)
     describe->add_option("TAG", tag, "Tag of a TRE, such as BLOCKA");
     describe->add_option("FIELD", field, "Field of the TRE");
     describe->callback([&] { exitCode = OrmoNitf::Describe(tag, field); });
+
+    auto* const cgm = app.add_subcommand("cgm", "Graphics, symbols and labels as clear text, or drawn over the images");
+    cgm->add_flag("--svg", asSvg, "A drawing in common coordinates, ordered by display level");
+    cgm->add_option("-o", out, "File to write; standard output without it");
+    cgm->add_option("FILE", file, "NITF or NSIF file")->required();
+    cgm->add_option("INDEX", drawn,
+                    "Position among graphics, or among symbols and then labels, from 0; all without it");
+    cgm->callback([&] { exitCode = OrmoNitf::Cgm(file, drawn, asSvg, out); });
 
     auto* const extract = app.add_subcommand("extract", "Writes the data of one segment to a file");
     extract->add_option("FILE", file, "NITF or NSIF file")->required();

@@ -72,6 +72,9 @@ struct ImageSupportDataNITF::Parts
 
 namespace Detail {
 
+/// Tells every drawn segment where that stands to which it is attached, and checks what the levels say of one another.
+void PlaceDrawnSegments(ImageSupportDataNITF::Parts& aParts, FindingList& aFindings);
+
 /// Hands the TREs of every overflow DES to the segment that it names, and checks what both sides say of the other.
 void PlaceOverflow(ImageSupportDataNITF::Parts& aParts, FindingList& aFindings);
 

@@ -69,6 +69,7 @@ struct NITFFieldSegment::Parts
     Detail::FieldRecord record;
     TREStore tres;
     std::uint64_t fileOffset = 0;
+    bool placed = false;  ///< whether it is known where the segment stands to which this one is attached
 
     Detail::Lazy<std::vector<const char*>> tags;
     Detail::Lazy<std::vector<const char*>> descriptions;

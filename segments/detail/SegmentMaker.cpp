@@ -3,10 +3,13 @@
 #include "segments/detail/SegmentLayout.h"
 #include "segments/fileheader/NITF20FileHeader.h"
 #include "segments/fileheader/NITF21FileHeader.h"
+#include "segments/graphic/NITF21GraphicSubheader.h"
 #include "segments/image/NITF20ImageSubheader.h"
 #include "segments/image/NITF21ImageSubheader.h"
+#include "segments/label/NITF20LabelSubheader.h"
 #include "segments/res/NITF20RESSubheader.h"
 #include "segments/res/NITF21RESSubheader.h"
+#include "segments/symbol/NITF20SymbolSubheader.h"
 #include "segments/text/NITF20TextSubheader.h"
 #include "segments/text/NITF21TextSubheader.h"
 
@@ -40,9 +43,11 @@ SegmentClass Of() noexcept
 const SegmentClass* FindClass(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept
 {
     static const SegmentClass classes[] = {
-        Of<NITF20FileHeader>(),    Of<NITF21FileHeader>(),    Of<NITF20ImageSubheader>(), Of<NITF21ImageSubheader>(),
-        Of<NITF20TextSubheader>(), Of<NITF21TextSubheader>(), Of<NITF20DESSubheader>(),   Of<NITF21DESSubheader>(),
-        Of<NITF20RESSubheader>(),  Of<NITF21RESSubheader>(),
+        Of<NITF20FileHeader>(),       Of<NITF21FileHeader>(),      Of<NITF20ImageSubheader>(),
+        Of<NITF21ImageSubheader>(),   Of<NITF20TextSubheader>(),   Of<NITF21TextSubheader>(),
+        Of<NITF20DESSubheader>(),     Of<NITF21DESSubheader>(),    Of<NITF20RESSubheader>(),
+        Of<NITF21RESSubheader>(),     Of<NITF20SymbolSubheader>(), Of<NITF20LabelSubheader>(),
+        Of<NITF21GraphicSubheader>(),
     };
     for (const SegmentClass& one : classes) {
         if (one.layout->kind->kind == aKind && one.layout->kind->version == LayoutVersion(aVersion)) {

@@ -95,6 +95,63 @@ inline constexpr SegmentWords TEXT_WORDS{
     .numberFault = "ERROR: Input text segment number out of valid range.",
     .naming = FieldNaming::PositionAndTag};
 
+inline constexpr SegmentWords GRAPHIC_WORDS{
+    .element = NITFCnst::XML_ELEMENT_GS_FIELD,
+    .indent = "      ",
+    .requiredPrefix = "ERROR: Graphic segment subheader fields data store contains errors - missing required field ",
+    .conditionalPrefix = EXTRACT_CONDITIONAL,
+    .streamSuffix = " from the graphic subheader data stream.",
+    .invalidPrefix = "ERROR: Value of graphic subheader field ",
+    .emptyName = "ERROR: NULL/empty input NITF graphic subheader field name string.",
+    .emptyTextName = "ERROR: NULL/empty input NITF graphic subheader field name string.",
+    .emptyTreName = "ERROR: NULL/empty input NITF graphic subheader field name string.",
+    .requested = "ERROR: Requested graphic subheader field ",
+    .notFound = " is not a NITF graphic subheader field.",
+    .requestedTre = "ERROR: Requested graphic subheader TRE field ",
+    .isNotAField = " is not a NITF graphic subheader field.",
+    .kindWord = "graphic",
+    .reader = "NITF21GraphicSubheader::InitNITF21GraphicSubheader",
+    .numberFault = "ERROR: Input graphic segment number out of valid range.",
+    .naming = FieldNaming::PositionAndTag};
+
+inline constexpr SegmentWords SYMBOL_WORDS{
+    .element = NITFCnst::XML_ELEMENT_SS_FIELD,
+    .indent = "      ",
+    .requiredPrefix = EXTRACT_REQUIRED,
+    .conditionalPrefix = EXTRACT_CONDITIONAL,
+    .streamSuffix = " from the symbol subheader data stream.",
+    .invalidPrefix = "ERROR: Value of symbol subheader field ",
+    .emptyName = "ERROR: NULL/empty input NITF symbol subheader field name string.",
+    .emptyTextName = "ERROR: NULL/empty input NITF symbol subheader field name string.",
+    .emptyTreName = "ERROR: NULL/empty input NITF symbol subheader field name string.",
+    .requested = "ERROR: Requested symbol subheader field ",
+    .notFound = " is not a NITF symbol subheader field.",
+    .requestedTre = "ERROR: Requested symbol subheader TRE field ",
+    .isNotAField = " is not a NITF symbol subheader field.",
+    .kindWord = "symbol",
+    .reader = "NITF20SymbolSubheader::InitNITF20SymbolSubheader",
+    .numberFault = "ERROR: Input symbol segment number out of valid range.",
+    .naming = FieldNaming::PositionAndTag};
+
+inline constexpr SegmentWords LABEL_WORDS{
+    .element = NITFCnst::XML_ELEMENT_LS_FIELD,
+    .indent = "      ",
+    .requiredPrefix = "ERROR: Label segment subheader fields data store contains errors - missing required field ",
+    .conditionalPrefix = EXTRACT_CONDITIONAL,
+    .streamSuffix = " from the label subheader data stream.",
+    .invalidPrefix = "ERROR: Value of label subheader field ",
+    .emptyName = "ERROR: NULL/empty input NITF label subheader field name string.",
+    .emptyTextName = "ERROR: NULL/empty input NITF label subheader field name string.",
+    .emptyTreName = "ERROR: NULL/empty input NITF label subheader field name string.",
+    .requested = "ERROR: Requested label subheader field ",
+    .notFound = " is not a NITF label subheader field.",
+    .requestedTre = "WARN: Label segment TRE field ",
+    .isNotAField = " is not a NITF label subheader field.",
+    .kindWord = "label",
+    .reader = "NITF20LabelSubheader::InitNITF20LabelSubheader",
+    .numberFault = "ERROR: Input label segment number out of valid range.",
+    .naming = FieldNaming::PositionAndTag};
+
 inline constexpr SegmentWords DES_WORDS{
     .element = NITFCnst::XML_ELEMENT_DES_FIELD,
     .indent = "      ",

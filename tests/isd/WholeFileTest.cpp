@@ -182,7 +182,7 @@ NitfBuilder FullFile(Format aFormat, bool aReserved = true)
     file.File().Area("UDHD", Tre("HDRTRE", "1"), 1);
     file.AddImage(4, 5).Comment("comment").Area("UDID", Tre("IMGTRE", "1"), 2);
     file.AddImage(2, 2).NoBands().Band("LU", {"abcd", "efgh"}).Area("IXSHD", Tre("IMGTRE", "1"));
-    file.AddGraphic("CGM data").Area("SXSHD", Tre("SYMTRE", "1"));
+    file.AddGraphic(std::string("\0\x40", 2)).Area("SXSHD", Tre("SYMTRE", "1"));
     if (aFormat == Format::Nitf20) {
         file.AddLabel("label").Area("LXSHD", Tre("LABTRE", "1"));
     }
