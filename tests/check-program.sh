@@ -37,6 +37,12 @@ expect 2 "$tool" json "$work"
 expect 2 "$tool" nonsense
 expect 0 "$tool" extract "$sample" text 0 -o "$work/text"
 expect 1 "$tool" extract "$sample" text 9 -o "$work/text9"
+expect 0 "$tool" cgm "$sample"
+grep -q "^ENDMF" "$work/out" || fail "cgm does not print the clear text"
+expect 0 "$tool" cgm --svg -o "$work/drawing.svg" "$sample"
+xmllint --noout "$work/drawing.svg" || fail "the drawing of the sample is no XML"
+expect 1 "$tool" cgm "$sample" 99
+expect 2 "$tool" cgm "$work/nothing.ntf"
 expect 0 "$tool" plugin
 grep -q "ORMO_CSM_PLUGIN" "$work/out" || fail "plugin does not show the plug-in of this library"
 grep -q "reason: .*SCI_ImageSupportDataLib.dll" "$work/out" || fail "plugin does not tell why a companion is absent"
