@@ -91,7 +91,7 @@ std::string Dataset()
                "0001NNORMO 1.0  ");
 }
 
-/// One element of a binary CGM (ISO/IEC 8632-3): class, id and parameters, filled to whole words.
+/// One element of a binary CGM (ISO/IEC 8632-3): class, id and up to 30 bytes of parameters, filled to whole words.
 std::string Element(unsigned aClass, unsigned aId, std::string_view aParameters)
 {
     const auto word = static_cast<std::uint16_t>(aClass << 12U | aId << 5U | aParameters.size());
@@ -120,9 +120,9 @@ std::string Frame()
 {
     return Element(0, 1, Text("Ormo sample")) + Element(1, 1, Words({1})) +  // BEGIN METAFILE, VERSION
            Element(1, 11, Words({1, -1, 1})) +                               // ELEMENT LIST: drawing plus control
-           Element(1, 2, Text("Frame around the middle of the chip")) +      // METAFILE DESCRIPTION
+           Element(1, 2, Text("NITF/CGM-APP-2.0.")) +                        // METAFILE DESCRIPTION
            Element(0, 3, Text("frame")) + Element(2, 2, Words({1})) +        // BEGIN PICTURE, direct colours
-           Element(2, 6, Words({0, 0, 87, 87})) + Element(0, 4, "") +        // VDC EXTENT, BEGIN PICTURE BODY
+           Element(2, 6, Words({0, 32767, 32767, 0})) + Element(0, 4, "") +  // VDC EXTENT, BEGIN PICTURE BODY
            Element(5, 4, std::string_view("\xFF\0\0", 3)) +                  // LINE COLOUR
            Element(4, 1, Words({0, 0, 87, 0, 87, 87, 0, 87, 0, 0})) +        // POLYLINE
            Element(0, 5, "") + Element(0, 2, "");                            // END PICTURE, END METAFILE
