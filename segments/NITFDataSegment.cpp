@@ -127,6 +127,11 @@ bool NITFDataSegment::HasDataSource() const noexcept
     return m_data->HasSource();
 }
 
+const std::shared_ptr<const Detail::ByteSource>& NITFDataSegment::DataSource() const noexcept
+{
+    return m_data->Source();
+}
+
 bool NITFDataSegment::ReadData(std::string& aOut) const
 {
     return m_data->Read(aOut);

@@ -9,6 +9,10 @@
 
 namespace ORMO::SensorModel::CSM {
 
+namespace Detail {
+class ByteSource;
+}
+
 /// What all subheaders share: a subheader that is read when the object is made, and data behind it
 /// that stay in the file until somebody asks for them.
 class ORMO_CSM_API NITFDataSegment : public NITFFieldSegment
@@ -59,6 +63,8 @@ protected:
     std::string DataFault() const;
     /// Whether there is a file to read the data from.
     bool HasDataSource() const noexcept;
+    /// The file that the data stand in; null for a segment without one.
+    const std::shared_ptr<const Detail::ByteSource>& DataSource() const noexcept;
     /// An element with the data as text or, when XML cannot carry them, in base64.
     void AppendDataElement(const char* aElement, std::string& aXml) const;
 

@@ -310,8 +310,14 @@ const TREStore& NITFFieldSegment::GetTREStore() const noexcept
 
 bool NITFFieldSegment::AddTRE(TRE* aTre)
 {
+    const bool added = AddDataSegmentTRE(m_parts->tres, aTre);
+    TREsChanged();
+    return added;
+}
+
+void NITFFieldSegment::TREsChanged()
+{
     m_parts->metadata.Reset();
-    return AddDataSegmentTRE(m_parts->tres, aTre);
 }
 
 std::size_t NITFFieldSegment::GetNumOfFields() const noexcept

@@ -109,6 +109,7 @@ protected:
     /// False, with nothing changed, for a segment of another kind or version.
     bool CloneObj(const NITFStdDataSegment& aOther) override;
     void Swap(NITFStdDataSegment& aOther) noexcept override;
+    void TREsChanged() override;
     bool SetAttachmentLevel() override;
     bool SetDisplayLevel() override;
 

@@ -165,12 +165,14 @@ bool NITFStdDataSegment::AddOverflowTRE(const TRE* aTre)
         TREFactory::Destroy(&copy);
         return false;
     }
+    TREsChanged();
     return true;
 }
 
 void NITFStdDataSegment::TakeOverflowTREs(TREStore& aStore)
 {
     aStore.HandOver(m_overflow);
+    TREsChanged();
 }
 
 bool NITFStdDataSegment::GetAllOverflowTREs(const TRE**& aArray, std::size_t& aCount) const

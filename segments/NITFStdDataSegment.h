@@ -122,6 +122,8 @@ protected:
     virtual bool SetAttachmentLevel();
     virtual bool SetDisplayLevel();
     virtual void Swap(NITFStdDataSegment& aOther) noexcept;
+    /// TREs were added: what was derived from them no longer holds.
+    virtual void TREsChanged() {}
 
     void SetNITFStdDataSegmentInfo(const NITFStdDataSegmentInfo& aInfo);
     /// What reading or validating the segment has to say.

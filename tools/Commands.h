@@ -16,6 +16,8 @@ int Describe(const std::string& aTag, const std::string& aField);
 int Plugin(const std::vector<std::string>& aLibraries);
 /// The clear text, or with `aSvg` a drawing, of the graphics, symbols and labels; of one of them with an index.
 int Cgm(const std::string& aFile, int aIndex, bool aSvg, const std::string& aOut);
+/// Writes an overview of an image segment, counted from 0, as a PNG file.
+int Preview(const std::string& aFile, unsigned aImage, const std::string& aOut);
 int Extract(const std::string& aFile, const std::string& aKind, unsigned aIndex, const std::string& aOut);
 
 }  // namespace OrmoNitf

@@ -3,6 +3,7 @@
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 
+#include <iomanip>
 #include <iostream>
 #include <map>
 #include <sstream>
@@ -67,16 +68,38 @@ void PrintTREs(std::ostream& aOut, const NITFFieldSegment& aSegment)
 
 void PrintFootprint(std::ostream& aOut, const NITFImageSubheader& aImage)
 {
-    constexpr std::size_t CORNER = 15;
-    const std::string_view corners = aImage.FieldText("IGEOLO");
-    if (corners.size() != 4 * CORNER) {
+    NITFImgExtent::Footprint footprint;
+    if (!aImage.GetFootprint(footprint)) {
+        const std::string_view igeolo = Trimmed(aImage.FieldText("IGEOLO"));
+        if (!igeolo.empty()) {
+            aOut << "    no footprint: IGEOLO is no location of ICORDS " << Shown(aImage.FieldText("ICORDS")) << ": "
+                 << Shown(igeolo) << '\n';
+        }
         return;
     }
-    aOut << "    footprint (ICORDS " << Shown(aImage.FieldText("ICORDS")) << "):";
-    for (std::size_t i = 0; i != 4; ++i) {
-        aOut << (i == 0 ? " " : ", ") << Shown(corners.substr(i * CORNER, CORNER));
+    aOut << "    footprint (" << footprint.source << "):" << std::fixed << std::setprecision(6);
+    for (std::size_t i = 0; i != footprint.latitudes.size(); ++i) {
+        aOut << (i == 0 ? " " : ", ") << footprint.latitudes[i] << ' ' << footprint.longitudes[i];
     }
-    aOut << '\n';
+    aOut << std::defaultfloat << (footprint.crosses180 ? ", across the 180th meridian" : "") << '\n';
+}
+
+/// What else places the image: the image that it was cut from, the coefficients for a sensor model.
+void PrintGeometry(std::ostream& aOut, const NITFImageSubheader& aImage)
+{
+    if (aImage.IsImageChip()) {
+        double row = 0.0;
+        double column = 0.0;
+        aOut << "    chip of a larger image";
+        if (aImage.GetImageExtentInformation().MapChipToFullImage(0.0, 0.0, row, column)) {
+            aOut << ": its row 0, column 0 is row " << row << ", column " << column << " there";
+        }
+        aOut << '\n';
+    }
+    const char rpc = aImage.GetRPC00Availability();
+    if (rpc != NITFCnst::RPC00_NOT_AVAILABLE) {
+        aOut << "    rational polynomial coefficients: RPC00" << rpc << '\n';
+    }
 }
 
 void PrintImage(std::ostream& aOut, const NITFImageSubheader& aImage, std::uint64_t aBytes)
@@ -91,10 +114,18 @@ void PrintImage(std::ostream& aOut, const NITFImageSubheader& aImage, std::uint6
     if (!comrat.empty()) {
         aOut << ' ' << Shown(comrat);
     }
+    aOut << ", mode " << Shown(aImage.FieldText("IMODE"));
+    unsigned long blockColumns = 0;
+    unsigned long blockRows = 0;
+    if (aImage.GetNumPixelsPerBlock(blockColumns, blockRows)) {
+        aOut << ", " << aImage.GetFieldNBPC() << " x " << aImage.GetFieldNBPR() << " block(s) of " << blockRows << " x "
+             << blockColumns;
+    }
     aOut << ", " << aBytes << " bytes\n";
     aOut << "    identifier " << Shown(aImage.FieldText(is21 ? "IID1" : "IID")) << ", date "
          << Shown(aImage.FieldText("IDATIM")) << ", classification " << Shown(aImage.FieldText("ISCLAS")) << '\n';
     PrintFootprint(aOut, aImage);
+    PrintGeometry(aOut, aImage);
     PrintTREs(aOut, aImage);
 }
 

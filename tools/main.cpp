@@ -72,6 +72,12 @@ int Run(int aCount, char** aArguments)
     plugin->add_option("LIBRARY", files, "Plug-in libraries to load first");
     plugin->callback([&] { exitCode = OrmoNitf::Plugin(files); });
 
+    auto* const preview = app.add_subcommand("preview", "Writes an overview of an image as a PNG file");
+    preview->add_option("FILE", file, "NITF or NSIF file")->required();
+    preview->add_option("IMAGE", index, "Position among the image segments, from 0; the first without it");
+    preview->add_option("-o", out, "File to write")->required();
+    preview->callback([&] { exitCode = OrmoNitf::Preview(file, index, out); });
+
     try {
         app.parse(aCount, aArguments);
     } catch (const CLI::ParseError& error) {

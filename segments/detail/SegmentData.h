@@ -24,6 +24,7 @@ public:
 
     std::uint64_t Start() const noexcept { return m_start; }
     std::uint64_t Size() const noexcept { return m_size; }
+    const std::shared_ptr<const ByteSource>& Source() const noexcept { return m_source; }
     bool HasSource() const noexcept { return m_source != nullptr; }
     /// Whether the file holds all of the data.
     bool IsAvailable() const noexcept { return m_source != nullptr && m_source->Holds(m_start, m_size); }

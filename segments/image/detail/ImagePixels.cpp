@@ -108,7 +108,7 @@ PixelAnswer ImagePixels::ReadUncompressed(const PixelWindow& aWindow, char* aOut
 
 PixelAnswer ImagePixels::OpenDecoder(std::shared_ptr<const GdalRaster>& aRaster) const
 {
-    if (m_source == nullptr || m_source->Path().empty()) {
+    if (m_source == nullptr || m_source->IsMemory() || m_source->Path().empty()) {
         return {Reader::STATUS_NO_FILE, "ERROR: Compressed pixels are read from a named file, and there is none."};
     }
     if (m_layout.compression == "I1") {  // GDAL would hand its bytes out as if they were pixels

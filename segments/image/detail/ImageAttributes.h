@@ -1,0 +1,58 @@
+#pragma once
+
+#include "foundation/detail/Lazy.h"
+#include "segments/image/NITFImageSubheader.h"
+#include "segments/image/detail/ImagePixels.h"
+#include "segments/image/detail/PixelLayout.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace ORMO::SensorModel::CSM {
+
+/// What follows from the fields and the TREs of an image subheader and is asked for often.
+struct NITFImageSubheader::Attributes
+{
+    NITFCnst::IC compression = NITFCnst::IC_UNKNOWN;
+    const char* compressionCode = nullptr;
+    const char* representation = nullptr;
+    const char* category = nullptr;
+    double magnification = 0.0;
+    char icords = '\0';
+    bool isGeographic = false;
+    bool hasLocation = false;
+    long locationRow = 0;
+    long locationColumn = 0;
+    /// Whether NBPP, ABPP, PJUST and PVTYPE are what the version allows.
+    bool arePixelBitsValid = false;
+    Detail::PixelLayout layout;
+    std::vector<std::uint64_t> blockRowStarts;
+    std::vector<std::uint64_t> blockColumnStarts;
+    const TreRPC00* rpc = nullptr;
+    char rpcAvailability = NITFCnst::RPC00_NOT_AVAILABLE;
+};
+
+/// The parts of an image that are made when somebody asks for them, and what a sensor model gave.
+struct NITFImageSubheader::Derived
+{
+    struct SensorModelCorners
+    {
+        double latitudes[NITFImgExtent::NUM_OF_CORNERS];
+        double longitudes[NITFImgExtent::NUM_OF_CORNERS];
+        double heights[NITFImgExtent::NUM_OF_CORNERS];
+        std::string model;
+        std::string source;
+    };
+
+    Detail::Lazy<Attributes> attributes;
+    Detail::Lazy<std::vector<NITFImgBandInfo>> bands;
+    Detail::Lazy<NITFImgExtent> extent;
+    Detail::Lazy<std::unique_ptr<const Detail::ImagePixels>> pixels;
+    std::optional<SensorModelCorners> sensorModel;
+
+    const Detail::ImagePixels& Pixels(const NITFImageSubheader& aImage) const;
+};
+
+}  // namespace ORMO::SensorModel::CSM
