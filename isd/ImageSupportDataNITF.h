@@ -72,6 +72,14 @@ public:
     const NITFStdDataSegmentInfos& GetSegmentInfos() const noexcept;
     long GetNumOfImageSegments() const override;
     const NITFImageSubheader* GetImageSubheader(std::size_t aIndex) const noexcept;
+    /// What reads the pixels of an image segment; null when there is no such segment.
+    const NITFImagePixelReader* GetImagePixelReader(std::size_t aIndex) const noexcept;
+    // Of an image segment, as NITFImageSubheader answers; what the base class says when there is no such segment.
+    bool GetImageChipTransformCoeffs(bool& aIsChip, const double*& aChipToFull, const double*& aFullToChip,
+                                     int aSegment) const override;
+    bool GetImageSegmentAverageHeight(double& aHeight, long aSegment) const override;
+    bool IsImageSegmentCoordGeographic(unsigned int aSegment) const override;
+    bool IsUnityTransform(int aSegment) const override;
     const NITFTextSubheader* GetTextSubheader(std::size_t aIndex) const noexcept;
     /// NITF 2.1 and NSIF 1.0.
     const NITF21GraphicSubheader* GetGraphicSubheader(std::size_t aIndex) const noexcept;

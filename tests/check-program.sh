@@ -61,6 +61,10 @@ if [ -x "$example/ormo-example-host" ]; then
         grep -q "EXAMPLE_RPC00B" "$work/out" || fail "plugin does not show a loaded plug-in"
     fi
 fi
+expect 0 "$tool" preview "$sample" -o "$work/image.png"
+[ "$(head -c 4 "$work/image.png" | tail -c 3)" = PNG ] || fail "preview writes no PNG"
+expect 1 "$tool" preview "$sample" 99 -o "$work/none.png"
+expect 2 "$tool" preview "$sample" -o "$work/no/such/directory.png"
 mkfifo "$work/fifo"
 expect 2 timeout 5 "$tool" info "$work/fifo"
 
