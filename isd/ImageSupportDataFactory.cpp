@@ -121,7 +121,8 @@ void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut,
         }
         int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
         if (!GDALOSDEFileReader::IsOSDEFile(aPath, version)) {
-            Messages().findings = {request.NotIdentified("ERROR: Invalid input argument(s).")};
+            Messages().findings = {request.NotIdentified(
+                "ERROR: Unknown/invalid NITF file version or the input file is not a NITF-formatted image file.")};
             RefuseArguments();
         }
     }

@@ -335,6 +335,7 @@ Finding Request::NotIdentified(std::string_view aSentence) const
     constexpr std::size_t IDENTITY_LENGTH = 9;
     Finding finding = Detail::MakeFinding(aSentence);
     if (source == nullptr) {
+        finding.sentence = "ERROR: The file cannot be opened.";
         finding.detail = reason;
         return finding;
     }

@@ -3,6 +3,7 @@
 #include "segments/cgm/NITFCGMMetaFile.h"
 #include "tools/Commands.h"
 #include "tools/Isd.h"
+#include "tools/Output.h"
 
 #include <algorithm>
 #include <cmath>
@@ -203,7 +204,7 @@ int Cgm(const std::string& aFile, int aIndex, bool aSvg, const std::string& aOut
             PrintProblem(aFile, NameOf(*segment) + ": " + metafile->GetFault()->text);
         }
     }
-    return WriteText(text.str(), aOut);
+    return WriteText(text.str(), aOut, aFile);
 }
 
 }  // namespace OrmoNitf

@@ -3,14 +3,11 @@
 #include "foundation/CSMUtilString.h"
 #include "tools/Commands.h"
 #include "tools/Isd.h"
+#include "tools/Output.h"
 #include "tre/TRECatalogue.h"
 
 #include <array>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <iostream>
-#include <memory>
 #include <string_view>
 
 namespace OrmoNitf {
@@ -28,7 +25,7 @@ int Xml(const std::string& aFile, bool aImagesOnly, const std::string& aOut)
         PrintProblem(aFile, "ERROR: The document cannot be written.");
         return EXIT_FILE_HAS_ERRORS;
     }
-    return WriteText(document, aOut);
+    return WriteText(document, aOut, aFile);
 }
 
 int Validate(const std::vector<std::string>& aFiles, bool aXml)
@@ -50,7 +47,10 @@ int Validate(const std::vector<std::string>& aFiles, bool aXml)
             std::cout << isd->GetValidationSummaryReport();
             continue;
         }
-        std::cout << file << ": " << errors << " error(s), " << warnings << " warning(s)\n";
+        Finding summary;
+        summary.sentence =
+            file + ": " + std::to_string(errors) + " error(s), " + std::to_string(warnings) + " warning(s)";
+        std::cout << summary.Line() << '\n';
         for (const std::string& line : isd->GetValidationLines()) {
             std::cout << "  " << line << '\n';
         }
@@ -111,11 +111,6 @@ NITFCnst::DataSegmentType KindOf(const std::string& aWord)
     return NITFStdDataSegment::GetDataSegmentCode(aWord.c_str());
 }
 
-struct StreamCloser
-{
-    void operator()(std::FILE* aStream) const { std::fclose(aStream); }
-};
-
 }  // namespace
 
 int Extract(const std::string& aFile, const std::string& aKind, unsigned aIndex, const std::string& aOut)
@@ -136,17 +131,18 @@ int Extract(const std::string& aFile, const std::string& aKind, unsigned aIndex,
                                 ", none has the index " + std::to_string(aIndex) + ".");
         return EXIT_FILE_HAS_ERRORS;
     }
-    std::unique_ptr<std::FILE, StreamCloser> out(std::fopen(aOut.c_str(), "wb"));
-    if (out == nullptr) {
-        PrintProblem(aOut, std::string("ERROR: ") + std::strerror(errno));
+    Output output;
+    std::string reason;
+    if (!output.Open(aOut, aFile, reason)) {
+        PrintProblem(aOut, reason);
         return EXIT_WRONG_USE;
     }
-    if (!isd->WriteSegmentData(kind, aIndex, out.get())) {
+    if (!isd->WriteSegmentData(kind, aIndex, output.Stream())) {
         PrintProblem(aFile, isd->GetErrorMessage());
         return EXIT_FILE_HAS_ERRORS;
     }
-    if (std::fclose(out.release()) != 0) {
-        PrintProblem(aOut, std::string("ERROR: ") + std::strerror(errno));
+    if (!output.Commit(reason)) {
+        PrintProblem(aOut, reason);
         return EXIT_WRONG_USE;
     }
     return EXIT_DONE;

@@ -2,14 +2,11 @@
 
 #include "foundation/CSMExceptions.h"
 #include "isd/ImageSupportDataFactory.h"
-#include "isd/ImageSupportDataNITFFactory.h"
-#include "raster/GDALNITFFileReader.h"
 
-#include <fstream>
 #include <iostream>
 #include <new>
 #include <stdexcept>
-#include <string_view>
+#include <vector>
 
 namespace OrmoNitf {
 
@@ -21,54 +18,25 @@ void IsdDestroyer::operator()(ImageSupportDataNITF* aIsd) const
     ImageSupportDataFactory::Destroy(&isd);
 }
 
-int WriteText(std::string_view aText, const std::string& aOut)
-{
-    if (aOut.empty()) {
-        std::cout << aText;
-        return EXIT_DONE;
-    }
-    std::ofstream out(aOut, std::ios::binary);
-    out << aText;
-    out.close();
-    if (!out) {
-        PrintProblem(aOut, "ERROR: The document cannot be written to this file.");
-        return EXIT_WRONG_USE;
-    }
-    return EXIT_DONE;
-}
-
 void PrintProblem(const std::string& aPath, const std::string& aText)
 {
-    std::string line;
-    std::string_view rest(aText);
-    while (!rest.empty()) {  // blocks are one problem each, their lines belong together
-        const auto end = rest.find("\n\n");
-        line = rest.substr(0, end);
-        for (char& character : line) {
-            character = character == '\n' || character == '\r' ? ' ' : character;
-        }
-        std::cerr << aPath << ": " << line << '\n';
-        rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 2);
-    }
+    Finding finding;
+    finding.sentence = aPath + ": " + aText;
+    std::cerr << finding.Line() << '\n';
 }
 
 namespace {
 
-/// Why the factory found no format: the NITF factory knows more than that the argument is invalid.
-std::string UnidentifiedReason(const std::string& aPath)
+/// One line for each thing that was wrong with a file that was refused.
+void PrintRefusal(const std::string& aPath, const std::string& aText)
 {
-    ImageSupportDataNITF* isd = nullptr;
-    std::string reason;
-    try {
-        ImageSupportDataNITFFactory::Create(aPath.c_str(), &isd, true, false, -1,
-                                            NITFCnst::NITF_VERSION_NUMBER_UNKNOWN);
-        const char* const message = ImageSupportDataNITFFactory::GetErrorMessage();
-        reason = message == nullptr ? "" : message;
-    } catch (const CSMException& exception) {
-        reason = exception.GetAdditionalMessage();
+    const std::vector<Finding>& findings = ImageSupportDataFactory::GetFindings();
+    for (const Finding& finding : findings) {
+        PrintProblem(aPath, finding.Line());
     }
-    ImageSupportDataNITFFactory::Destroy(&isd);
-    return reason + " [" + GDALNITFFileReader::WhyNotNITFFile(aPath.c_str()) + "]";
+    if (findings.empty()) {
+        PrintProblem(aPath, aText);
+    }
 }
 
 }  // namespace
@@ -78,12 +46,12 @@ Isd OpenFile(const std::string& aPath, bool aImagesOnly)
     ImageSupportData* isd = nullptr;
     try {
         ImageSupportDataFactory::Create(aPath.c_str(), &isd, !aImagesOnly, false);
-    } catch (const std::invalid_argument&) {
-        PrintProblem(aPath, UnidentifiedReason(aPath));
+    } catch (const std::invalid_argument& exception) {
+        PrintRefusal(aPath, exception.what());
         return nullptr;
     } catch (const CSMException& exception) {
         const std::string text = exception.GetAdditionalMessage();
-        PrintProblem(aPath, text.empty() ? exception.GetErrorMessage() : text);
+        PrintRefusal(aPath, text.empty() ? exception.GetErrorMessage() : text);
         return nullptr;
     } catch (const std::bad_alloc&) {
         PrintProblem(aPath, "ERROR: System out of memory.");

@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace OrmoNitf {
 
@@ -25,10 +24,7 @@ using Isd = std::unique_ptr<ORMO::SensorModel::CSM::ImageSupportDataNITF, IsdDes
 /// Opens a file; null, with the reason on standard error, when it cannot be opened.
 Isd OpenFile(const std::string& aPath, bool aImagesOnly = false);
 
-/// Writes to a file, or to standard output without a name. Answers the exit code.
-int WriteText(std::string_view aText, const std::string& aOut);
-
-/// Writes one line per problem to standard error, prefixed with the file name.
+/// Writes one line to standard error, prefixed with the file name, without a control byte.
 void PrintProblem(const std::string& aPath, const std::string& aText);
 
 }  // namespace OrmoNitf

@@ -1,9 +1,10 @@
 #include "foundation/CSMUtilString.h"
+#include "isd/ImageSupportDataFactory.h"
 #include "tools/Commands.h"
 #include "tools/Isd.h"
+#include "tools/Output.h"
 
 #include <algorithm>
-#include <iostream>
 #include <string_view>
 
 #include <nlohmann/json.hpp>
@@ -146,6 +147,20 @@ Object File(const std::string& aPath, const ImageSupportDataNITF& aIsd)
                   {"segments", std::move(segments)}};
 }
 
+/// A file that cannot be opened is a line too: the first thing that was wrong with it.
+Object Refusal(const std::string& aPath)
+{
+    const std::vector<Finding>& findings = ImageSupportDataFactory::GetFindings();
+    const Finding finding = findings.empty() ? Finding{} : findings.front();
+    Object error{{"text", Text(finding.sentence)}};
+    error["segment"] = finding.segment.empty() ? Object(nullptr) : Object(finding.segment);
+    error["index"] = finding.index == Finding::NO_INDEX ? Object(nullptr) : Object(finding.index);
+    error["field"] = finding.field.empty() ? Object(nullptr) : Object(finding.field);
+    error["offset"] = finding.offset == Finding::NO_OFFSET ? Object(nullptr) : Object(finding.offset);
+    error["value"] = finding.value.empty() ? Object(finding.detail) : FieldValue(finding.value);
+    return Object{{"file", Text(aPath)}, {"error", std::move(error)}};
+}
+
 }  // namespace
 
 int Json(const std::vector<std::string>& aFiles)
@@ -153,11 +168,15 @@ int Json(const std::vector<std::string>& aFiles)
     int exitCode = EXIT_DONE;
     for (const std::string& file : aFiles) {
         const Isd isd = OpenFile(file);
+        const std::string line = (isd == nullptr ? Refusal(file) : File(file, *isd)).dump() + '\n';
         if (isd == nullptr) {
             exitCode = EXIT_WRONG_USE;
-            continue;
         }
-        std::cout << File(file, *isd).dump() << '\n';
+        // One write for a document: lines of several processes that share an output stay whole.
+        const int written = WriteText(line, "", file);
+        if (written != EXIT_DONE) {
+            return written;
+        }
     }
     return exitCode;
 }

@@ -1,10 +1,7 @@
 #include "tools/Commands.h"
 #include "tools/Isd.h"
+#include "tools/Output.h"
 #include "tools/Picture.h"
-
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 
 namespace OrmoNitf {
 
@@ -33,17 +30,11 @@ int Preview(const std::string& aFile, unsigned aImage, const std::string& aOut)
         return EXIT_FILE_HAS_ERRORS;
     }
     std::string png;
-    std::ofstream out;
-    if (EncodePng(picture, png)) {
-        out.open(aOut, std::ios::binary);
-        out << png;
-        out.close();
-    }
-    if (png.empty() || !out) {
-        PrintProblem(aOut, std::string("ERROR: The picture cannot be written: ") + std::strerror(errno));
+    if (!EncodePng(picture, png)) {
+        PrintProblem(aOut, "ERROR: The picture cannot be encoded.");
         return EXIT_WRONG_USE;
     }
-    return EXIT_DONE;
+    return WriteText(png, aOut, aFile);
 }
 
 }  // namespace OrmoNitf

@@ -39,7 +39,7 @@ public:
                      const SizeMap** aActualSizes, const TextMap** aLongNames, const TextMap** aTypes,
                      const std::vector<bool>** aBinaryFields) const override
     {
-        ++calls;
+        std::atomic_ref<int>(calls).fetch_add(1);
         if (throws) {
             throw std::runtime_error("not now");
         }
@@ -69,7 +69,7 @@ public:
     bool throws = false;
     bool valuesMissing = false;
     bool binaryUnknown = false;
-    mutable std::atomic<int> calls{0};
+    mutable int calls = 0;
 };
 
 std::vector<std::string> Texts(const char** aTexts, std::size_t aCount)

@@ -1,0 +1,114 @@
+#include "tools/Output.h"
+
+#include "tools/Isd.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace OrmoNitf {
+
+namespace {
+
+std::string SystemReason()
+{
+    return std::string("ERROR: ") + std::strerror(errno) + '.';
+}
+
+bool IsSameFile(const std::string& aOne, const std::string& aOther) noexcept
+{
+    struct stat one = {};
+    struct stat other = {};
+    return ::stat(aOne.c_str(), &one) == 0 && ::stat(aOther.c_str(), &other) == 0 && one.st_dev == other.st_dev &&
+           one.st_ino == other.st_ino;
+}
+
+}  // namespace
+
+Output::~Output()
+{
+    if (!m_temporary.empty()) {
+        if (m_stream != nullptr) {
+            std::fclose(m_stream);
+        }
+        ::unlink(m_temporary.c_str());
+    }
+}
+
+bool Output::Open(const std::string& aTarget, const std::string& aInput, std::string& aReason)
+{
+    if (aTarget.empty() || aTarget == "-") {
+        m_stream = stdout;
+        return true;
+    }
+    if (IsSameFile(aTarget, aInput)) {
+        aReason = "ERROR: The output is the input file itself; nothing is written.";
+        return false;
+    }
+    struct stat status = {};
+    if (::stat(aTarget.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        // A device or pipe is no file that could be replaced.
+        m_stream = S_ISDIR(status.st_mode) ? nullptr : std::fopen(aTarget.c_str(), "wb");
+        errno = m_stream == nullptr && S_ISDIR(status.st_mode) ? EISDIR : errno;
+        aReason = m_stream == nullptr ? SystemReason() : "";
+        return m_stream != nullptr;
+    }
+    std::string name = aTarget + ".XXXXXX";
+    const int descriptor = ::mkstemp(name.data());
+    if (descriptor < 0) {
+        aReason = SystemReason();
+        return false;
+    }
+    m_temporary = name;
+    m_target = aTarget;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    ::fchmod(descriptor, status.st_mode != 0 ? status.st_mode & 0777U : 0666U & ~mask);
+    m_stream = ::fdopen(descriptor, "wb");
+    if (m_stream == nullptr) {
+        aReason = SystemReason();
+        ::close(descriptor);
+    }
+    return m_stream != nullptr;
+}
+
+bool Output::Commit(std::string& aReason)
+{
+    const bool written = std::fflush(m_stream) == 0 && std::ferror(m_stream) == 0;
+    if (!written) {
+        aReason = SystemReason();
+        return false;
+    }
+    if (m_temporary.empty()) {
+        return true;
+    }
+    std::FILE* const stream = m_stream;
+    m_stream = nullptr;
+    if (std::fclose(stream) != 0 || std::rename(m_temporary.c_str(), m_target.c_str()) != 0) {
+        aReason = SystemReason();
+        return false;
+    }
+    m_temporary.clear();
+    return true;
+}
+
+int WriteText(std::string_view aText, const std::string& aTarget, const std::string& aInput)
+{
+    Output output;
+    std::string reason;
+    if (output.Open(aTarget, aInput, reason)) {
+        errno = 0;
+        std::fwrite(aText.data(), 1, aText.size(), output.Stream());
+        if (output.Commit(reason)) {
+            return EXIT_DONE;
+        }
+    }
+    PrintProblem(aTarget.empty() ? "standard output" : aTarget, reason);
+    return EXIT_WRONG_USE;
+}
+
+}  // namespace OrmoNitf
