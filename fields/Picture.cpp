@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM::Detail {
@@ -13,6 +14,7 @@ constexpr std::size_t MONTH_LETTERS = 3;
 constexpr int HIGHEST_LATITUDE = 90;
 constexpr int HIGHEST_LONGITUDE = 180;
 constexpr int HIGHEST_OF_SIXTY = 59;
+constexpr int LEAP_YEAR = 2000;
 
 enum class PieceKind : std::uint8_t
 {
@@ -54,14 +56,15 @@ bool IsDigit(char aCharacter) noexcept
     return aCharacter >= '0' && aCharacter <= '9';
 }
 
-bool IsMonth(std::string_view aText) noexcept
+/// The number of a month from its letters; 0 when there is none.
+unsigned MonthOf(std::string_view aText) noexcept
 {
     for (std::size_t i = 0; i != MONTHS.size(); i += MONTH_LETTERS) {
         if (MONTHS.substr(i, MONTH_LETTERS) == aText) {
-            return true;
+            return static_cast<unsigned>(i / MONTH_LETTERS + 1);
         }
     }
-    return false;
+    return 0;
 }
 
 /// Digits throughout; no text of a picture is long enough to overflow.
@@ -87,8 +90,11 @@ public:
     bool Matches(const Piece& aPiece, std::string_view aText) noexcept;
     /// What is to be remembered of a piece.
     void Pass(const Piece& aPiece) noexcept;
+    /// Whether the calendar has the day, as far as it is known.
+    bool IsInCalendar() const noexcept;
 
 private:
+    void RememberDate(std::string_view aPiece, unsigned aNumber) noexcept;
     bool CharacterMatches(char aPicture, char aCharacter) noexcept;
 
     bool m_afterPoint = false;  // digits are a fraction of the piece before, up to the next sign or letter
@@ -96,6 +102,9 @@ private:
     bool m_isUnknown = false;   // it has, so nothing but hyphens may follow
     bool m_isAngle = false;     // minutes and seconds are parts of a degree
     bool m_isFull = false;      // the degrees are at their bound, so nothing but zeros may follow
+    int m_year = LEAP_YEAR;     // when it is not known, every day of a leap year may be
+    unsigned m_month = 0;       // 0 when it is not known
+    unsigned m_day = 0;
 };
 
 Piece PictureReader::Next(std::string_view aPicture) const noexcept
@@ -134,7 +143,8 @@ bool PictureReader::Matches(const Piece& aPiece, std::string_view aText) noexcep
     int number = 0;
     switch (aPiece.kind) {
         case PieceKind::Month:
-            return IsMonth(aText);
+            m_month = MonthOf(aText);
+            return m_month != 0;
         case PieceKind::Location:
             return ToNumber(aText.substr(aText.front() == '-' || aText.front() == '+' ? 1 : 0), number);
         case PieceKind::Degrees:
@@ -145,13 +155,39 @@ bool PictureReader::Matches(const Piece& aPiece, std::string_view aText) noexcep
                 const int high = m_isFull ? 0 : std::min(aPiece.high, HIGHEST_OF_SIXTY);
                 return ToNumber(aText, number) && number <= high;
             }
-            return aText.find_first_not_of('-') == std::string_view::npos ||
-                   (ToNumber(aText, number) && aPiece.low <= number && number <= aPiece.high);
+            if (aText.find_first_not_of('-') == std::string_view::npos) {
+                return true;
+            }
+            if (!ToNumber(aText, number) || number < aPiece.low || number > aPiece.high) {
+                return false;
+            }
+            RememberDate(aPiece.text, static_cast<unsigned>(number));
+            return true;
         case PieceKind::Character:
         case PieceKind::Broken:
             break;
     }
     return CharacterMatches(aPiece.text.front(), aText.front());
+}
+
+void PictureReader::RememberDate(std::string_view aPiece, unsigned aNumber) noexcept
+{
+    if (aPiece == "CCYY" || aPiece == "YYYY") {
+        m_year = static_cast<int>(aNumber);
+    } else if (aPiece == "YY") {
+        m_year = LEAP_YEAR + static_cast<int>(aNumber);  // of the centuries that may be meant the one with more days
+    } else if (aPiece == "MM") {
+        m_month = aNumber;
+    } else if (aPiece == "DD") {
+        m_day = aNumber;
+    }
+}
+
+bool PictureReader::IsInCalendar() const noexcept
+{
+    return m_month == 0 || m_day == 0 ||
+           std::chrono::year_month_day(std::chrono::year(m_year), std::chrono::month(m_month), std::chrono::day(m_day))
+               .ok();
 }
 
 bool PictureReader::CharacterMatches(char aPicture, char aCharacter) noexcept
@@ -187,6 +223,7 @@ bool PictureReader::CharacterMatches(char aPicture, char aCharacter) noexcept
 
 }  // namespace
 
+// A day must be one of the calendar, too.
 bool PictureMatches(std::string_view aPicture, std::string_view aValue) noexcept
 {
     if (aPicture.size() != aValue.size()) {
@@ -202,7 +239,7 @@ bool PictureMatches(std::string_view aPicture, std::string_view aValue) noexcept
         aPicture.remove_prefix(piece.text.size());
         aValue.remove_prefix(piece.text.size());
     }
-    return true;
+    return reader.IsInCalendar();
 }
 
 bool IsPicture(std::string_view aPicture) noexcept

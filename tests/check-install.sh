@@ -55,7 +55,7 @@ export include
 find "$include" -name '*.h' ! -path '*/csmapi/*' -print0 | xargs -0 -P "$(nproc)" -n 8 bash -c 'compile_alone "$@"' _
 printf '%s\0' c++11 gnu++14 c++17 c++20 | xargs -0 -P "$(nproc)" -n 1 bash -c 'compile_csmapi "$@"' _
 
-foreign=$(nm -D --defined-only "$(find "$work/prefix" -name 'libormo_csm.so')" | grep -cE ' _Z[A-Z]*St' || true)
+foreign=$(nm -D --defined-only "$plugin" | grep -cE ' _Z[A-Z]*St' || true)
 [ "$foreign" -eq 0 ] || { echo "FAILED: $foreign instances of standard templates are exported"; exit 1; }
 exported=$(nm -DC --defined-only "$plugin" | grep -c " T ORMO::SensorModel::CSM::Detail::" || true)
 [ "$exported" -eq 0 ] || { echo "FAILED: $exported internal functions are exported"; exit 1; }

@@ -68,7 +68,7 @@ constexpr FieldRow BODY[] = {
     Field("NBPP",      2, Required,        Digits,      "01..64", "", "Number of Bits Per Pixel Per Band [01-64]").Locked(),
     Field("IDLVL",     3, Required,        Digits,      "001..999", "", "Image Display Level [001-999]").Locked(),
     Field("IALVL",     3, Required,        Digits,      "000..998", "", "Image Attachment Level [000-998]").Locked(),
-    Field("ILOC",     10, Required,        NumberText,  "", "", "Image Location {rrrrrccccc}[-9999-99999]"),
+    Field("ILOC",     10, Required,        NumberText,  "{rrrrrccccc}", "", "Image Location {rrrrrccccc}[-9999-99999]"),
     Field("IMAG",      4, Required,        Text,        "", "", "Image Magnification [any decimal|/2-/999]"),
 };
 // clang-format on

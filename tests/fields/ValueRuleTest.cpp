@@ -75,6 +75,22 @@ TEST(ValueRuleTest, FractionsOfATimeMayEndInHyphensAndHexadecimalDigitsAreDigits
     EXPECT_EQ(OutOfRange, Check(Form::Text, "{xxxx-xx}", "09a-fAF"));
 }
 
+TEST(ValueRuleTest, DatesObeyTheCalendarAsFarAsTheyAreKnown)
+{
+    for (const char* const good :
+         {"20240229120000", "20230228120000", "20231231235960", "----0229------", "2023--31------"}) {
+        EXPECT_TRUE(PictureMatches("CCYYMMDDhhmmss", good)) << good;
+    }
+    for (const char* const bad :
+         {"20230229120000", "20230431120000", "19000229120000", "----0230------", "20230231000000"}) {
+        EXPECT_FALSE(PictureMatches("CCYYMMDDhhmmss", bad)) << bad;
+    }
+    EXPECT_TRUE(PictureMatches("DDHHmmSSZMONYY", "29120000ZFEB96"));
+    EXPECT_TRUE(PictureMatches("YYMMDD", "000229")) << "2000 may be meant";
+    EXPECT_FALSE(PictureMatches("DDHHmmSSZMONYY", "29120000ZFEB97"));
+    EXPECT_FALSE(PictureMatches("DDHHmmSSZMONYY", "31120000ZJUN96"));
+}
+
 TEST(ValueRuleTest, AlternativesMayCarryMeaningsAndBlanks)
 {
     constexpr const char* RULE = "L=left|R=right..or so|blank=unknown|==equal";
