@@ -1,5 +1,7 @@
 #include "fields/Xml.h"
 
+#include "foundation/CSMUtilString.h"
+
 #include <algorithm>
 
 namespace ORMO::SensorModel::CSM::Detail {
@@ -15,7 +17,6 @@ bool IsXmlText(std::string_view aBytes) noexcept
 void AppendXmlText(std::string_view aBytes, std::string& aOut)
 {
     for (const char character : aBytes) {
-        const auto byte = static_cast<unsigned char>(character);
         switch (character) {
             case '&':
                 aOut += "&amp;";
@@ -42,12 +43,7 @@ void AppendXmlText(std::string_view aBytes, std::string& aOut)
                 aOut += "&#9;";
                 break;
             default:
-                if (byte < 0x80) {
-                    aOut += character;
-                } else {
-                    aOut += static_cast<char>(0xC0U | (byte >> 6U));
-                    aOut += static_cast<char>(0x80U | (byte & 0x3FU));
-                }
+                Util::CSMUtilString::AppendLatin1AsUtf8({&character, 1}, aOut);
         }
     }
 }
@@ -72,22 +68,6 @@ void AppendXmlAttribute(std::string_view aName, std::string_view aValue, std::st
     aOut += '"';
 }
 
-void AppendBase64(std::string_view aBytes, std::string& aOut)
-{
-    constexpr std::string_view ALPHABET = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    aOut.reserve(aOut.size() + (aBytes.size() + 2) / 3 * 4);
-    for (std::size_t i = 0; i < aBytes.size(); i += 3) {
-        const std::size_t count = std::min<std::size_t>(3, aBytes.size() - i);
-        unsigned bits = 0;
-        for (std::size_t k = 0; k != 3; ++k) {
-            bits = (bits << 8U) | (k < count ? static_cast<unsigned char>(aBytes[i + k]) : 0U);
-        }
-        for (unsigned k = 0; k != 4; ++k) {
-            aOut += k <= count ? ALPHABET[(bits >> (18U - 6U * k)) & 0x3FU] : '=';
-        }
-    }
-}
-
 void AppendXmlValueAndEnd(std::string_view aElement, std::string_view aValue, std::string& aOut)
 {
     if (IsXmlText(aValue)) {
@@ -96,7 +76,7 @@ void AppendXmlValueAndEnd(std::string_view aElement, std::string_view aValue, st
     } else {
         AppendXmlAttribute("base64Encoded", "T", aOut);
         aOut += '>';
-        AppendBase64(aValue, aOut);
+        Util::CSMUtilString::AppendBase64(aValue, aOut);
     }
     aOut += "</";
     aOut += aElement;

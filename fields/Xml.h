@@ -15,9 +15,6 @@ void AppendXmlText(std::string_view aBytes, std::string& aOut);
 /// Appends a blank, the name, "=" and the escaped value in double quotes. Bytes that XML cannot carry become '?'.
 void AppendXmlAttribute(std::string_view aName, std::string_view aValue, std::string& aOut);
 
-/// Appends the standard base64 form of the bytes.
-void AppendBase64(std::string_view aBytes, std::string& aOut);
-
 /// Closes an open start tag and appends the value and the end tag with a line feed. A value that XML cannot carry is
 /// written in base64, and the start tag gets one more attribute that says so.
 void AppendXmlValueAndEnd(std::string_view aElement, std::string_view aValue, std::string& aOut);

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM::Util {
@@ -86,6 +87,9 @@ public:
     static void ConvertFromCharToWChar(const char* aText, wchar_t** aOut);
     static void ConvertFromWCharToChar(const wchar_t* aText, char** aOut);
 
+    /// Appends bytes as UTF-8, each of them taken for the Latin-1 character of its value. Throws std::bad_alloc.
+    static void AppendLatin1AsUtf8(std::string_view aBytes, std::string& aOut);
+
     /// -1, 0 or 1 by the values of the bytes. A null text stands before every other text, the empty one included.
     static int Compare(const char* aFirst, const char* aSecond) noexcept;
     static int Compare(bool aIgnoreCase, const char* aFirst, const char* aSecond) noexcept;
@@ -143,6 +147,8 @@ public:
 
     /// Standard base64 with "=" padding; no bytes give the empty text.
     static bool Base64Encode(const char* aBytes, std::size_t aLength, char** aOut) noexcept;
+    /// Appends the same to a text. Throws std::bad_alloc.
+    static void AppendBase64(std::string_view aBytes, std::string& aOut);
     /// Decodes up to the first character outside of the base64 alphabet and ignores the rest. The bytes may include
     /// NUL; one NUL, not counted in aLength, follows them.
     static bool Base64Decode(const char* aText, char** aOut, std::size_t& aLength) noexcept;

@@ -30,6 +30,26 @@ std::uint32_t ByteAt(const char* aBytes, std::size_t aIndex) noexcept
     return static_cast<unsigned char>(aBytes[aIndex]);
 }
 
+std::size_t Base64Length(std::size_t aLength) noexcept
+{
+    return (aLength / 3 + (aLength % 3 != 0 ? 1 : 0)) * 4;
+}
+
+void WriteBase64(const char* aBytes, std::size_t aLength, char* aOut) noexcept
+{
+    char* next = aOut;
+    for (std::size_t i = 0; i < aLength; i += 3) {
+        const std::size_t present = std::min<std::size_t>(3, aLength - i);
+        const std::uint32_t second = present > 1 ? ByteAt(aBytes, i + 1) : 0;
+        const std::uint32_t third = present > 2 ? ByteAt(aBytes, i + 2) : 0;
+        const std::uint32_t group = (ByteAt(aBytes, i) << 16U) | (second << 8U) | third;
+        *next++ = BASE64_ALPHABET[group >> 18U];
+        *next++ = BASE64_ALPHABET[(group >> 12U) & 0x3FU];
+        *next++ = present > 1 ? BASE64_ALPHABET[(group >> 6U) & 0x3FU] : '=';
+        *next++ = present > 2 ? BASE64_ALPHABET[group & 0x3FU] : '=';
+    }
+}
+
 /// A big-endian value of at most aWidth bytes.
 template<typename Out>
 bool ReadBigEndian(const char* aBytes, std::size_t aCount, std::size_t aWidth, Out& aOut) noexcept
@@ -104,23 +124,33 @@ bool CSMUtilString::Base64Encode(const char* aBytes, std::size_t aLength, char**
     if (aBytes == nullptr || aLength > SIZE_MAX / 2) {
         return false;
     }
-    char* const text = Detail::NewArray<char>((aLength / 3 + (aLength % 3 != 0 ? 1 : 0)) * 4 + 1);
+    char* const text = Detail::NewArray<char>(Base64Length(aLength) + 1);
     if (text == nullptr) {
         return false;
     }
-    char* next = text;
-    for (std::size_t i = 0; i < aLength; i += 3) {
-        const std::size_t present = std::min<std::size_t>(3, aLength - i);
-        const std::uint32_t second = present > 1 ? ByteAt(aBytes, i + 1) : 0;
-        const std::uint32_t third = present > 2 ? ByteAt(aBytes, i + 2) : 0;
-        const std::uint32_t group = (ByteAt(aBytes, i) << 16U) | (second << 8U) | third;
-        *next++ = BASE64_ALPHABET[group >> 18U];
-        *next++ = BASE64_ALPHABET[(group >> 12U) & 0x3FU];
-        *next++ = present > 1 ? BASE64_ALPHABET[(group >> 6U) & 0x3FU] : '=';
-        *next++ = present > 2 ? BASE64_ALPHABET[group & 0x3FU] : '=';
-    }
+    WriteBase64(aBytes, aLength, text);
     *aOut = text;
     return true;
+}
+
+void CSMUtilString::AppendBase64(std::string_view aBytes, std::string& aOut)
+{
+    const std::size_t start = aOut.size();
+    aOut.resize(start + Base64Length(aBytes.size()));
+    WriteBase64(aBytes.data(), aBytes.size(), aOut.data() + start);
+}
+
+void CSMUtilString::AppendLatin1AsUtf8(std::string_view aBytes, std::string& aOut)
+{
+    for (const char character : aBytes) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte < 0x80) {
+            aOut += character;
+        } else {
+            aOut += static_cast<char>(0xC0U | (byte >> 6U));
+            aOut += static_cast<char>(0x80U | (byte & 0x3FU));
+        }
+    }
 }
 
 bool CSMUtilString::Base64Decode(const char* aText, char** aOut, std::size_t& aLength) noexcept

@@ -181,7 +181,7 @@ void NITFDataSegment::AppendDataElement(const char* aElement, std::string& aXml)
         if (same && text) {
             Detail::AppendXmlText(aPiece, aXml);
         } else if (same) {
-            Detail::AppendBase64(aPiece, aXml);
+            Util::CSMUtilString::AppendBase64(aPiece, aXml);
         }
         return same;
     });

@@ -6,6 +6,7 @@
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "foundation/detail/QueryMessages.h"
+#include "segments/detail/SegmentKind.h"
 #include "tre/TREFactory.h"
 
 #include <algorithm>
@@ -46,6 +47,16 @@ const char* NITFStdDataSegment::GetDataSegmentName(NITFCnst::DataSegmentType aTy
     const auto* const it = std::find_if(KIND_NAMES.begin(), KIND_NAMES.end(),
                                         [aType](const KindName& aName) { return aName.kind == aType; });
     return it == KIND_NAMES.end() ? NITFCnst::STR_UNKNOWN_DATA_SEGMENT : it->name;
+}
+
+const char* NITFStdDataSegment::GetDataSegmentWord(NITFCnst::DataSegmentType aType) noexcept
+{
+    for (const Detail::SegmentKind& kind : Detail::SEGMENT_KINDS) {
+        if (kind.kind == aType) {
+            return kind.word;
+        }
+    }
+    return nullptr;
 }
 
 NITFCnst::DataSegmentType NITFStdDataSegment::GetDataSegmentCode(const char* aName) noexcept

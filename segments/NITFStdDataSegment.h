@@ -24,6 +24,8 @@ public:
 
     /// "ImageSegment" and so on; "UnknownDataSegment" for any other code.
     static const char* GetDataSegmentName(NITFCnst::DataSegmentType aType) noexcept;
+    /// The same in a word for a person: "image", "des", "header"; null for any other code.
+    static const char* GetDataSegmentWord(NITFCnst::DataSegmentType aType) noexcept;
     /// The kind of a name, white space around it left out; unknown for any other text.
     static NITFCnst::DataSegmentType GetDataSegmentCode(const char* aName) noexcept;
     /// True when `aFirst` is drawn before `aSecond`; false when either is null.

@@ -1,5 +1,6 @@
 // The command that shows graphics, symbols and labels: as clear text or as a drawing.
 
+#include "foundation/CSMUtilString.h"
 #include "segments/cgm/NITFCGMMetaFile.h"
 #include "tools/Commands.h"
 #include "tools/Isd.h"
@@ -8,8 +9,11 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <memory>
 #include <sstream>
 #include <string_view>
+
+#include <CLI/CLI.hpp>
 
 namespace OrmoNitf {
 
@@ -53,14 +57,8 @@ std::string Shown(std::string_view aText)
     std::string shown;
     for (const char character : aText) {
         const auto byte = static_cast<unsigned char>(character);
-        if (byte < 0x20 || (byte > 0x7E && byte < 0xA0)) {
-            shown += '.';
-        } else if (byte < 0x80) {
-            shown += character;
-        } else {
-            shown += static_cast<char>(0xC0U | (byte >> 6U));
-            shown += static_cast<char>(0x80U | (byte & 0x3FU));
-        }
+        const bool control = byte < 0x20 || (byte > 0x7E && byte < 0xA0);
+        Util::CSMUtilString::AppendLatin1AsUtf8(control ? "." : std::string_view(&character, 1), shown);
     }
     return shown;
 }
@@ -172,7 +170,13 @@ std::string Drawing(const ImageSupportDataNITF& aIsd, const NITFDrawnSegment* aO
     return frame.Start() + elements + "</svg>\n";
 }
 
-}  // namespace
+struct Options
+{
+    std::string file;
+    int index = -1;
+    bool asSvg = false;
+    std::string out;
+};
 
 int Cgm(const std::string& aFile, int aIndex, bool aSvg, const std::string& aOut)
 {
@@ -206,5 +210,26 @@ int Cgm(const std::string& aFile, int aIndex, bool aSvg, const std::string& aOut
     }
     return WriteText(text.str(), aOut, aFile);
 }
+
+Action DeclareCgm(CLI::App& aApp)
+{
+    auto options = std::make_shared<Options>();
+    aApp.add_flag("--svg", options->asSvg, "A drawing in common coordinates, ordered by display level");
+    aApp.add_option("-o", options->out, "File to write; standard output without it");
+    aApp.add_option("FILE", options->file, "NITF or NSIF file")->required();
+    aApp.add_option("INDEX", options->index,
+                    "Position among graphics, or among symbols and then labels, from 0; all without it");
+    return [options] { return Cgm(options->file, options->index, options->asSvg, options->out); };
+}
+
+}  // namespace
+
+constexpr Command CGM{.name = "cgm",
+                      .summary = "Graphics, symbols and labels as clear text, or drawn over the images",
+                      .examples =
+                          "cgm chart.ntf 0\n"
+                          "cgm --svg -o chart.svg chart.ntf",
+                      .exitCodes = "0 done, 1 no such graphic, 2 wrong use or a file that cannot be opened",
+                      .declare = DeclareCgm};
 
 }  // namespace OrmoNitf

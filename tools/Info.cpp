@@ -6,9 +6,12 @@
 #include <iomanip>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <sstream>
 #include <string_view>
 #include <utility>
+
+#include <CLI/CLI.hpp>
 
 namespace OrmoNitf {
 
@@ -280,8 +283,6 @@ void PrintFile(std::ostream& aOut, const std::string& aPath, const ImageSupportD
     }
 }
 
-}  // namespace
-
 int Info(const std::vector<std::string>& aFiles)
 {
     int exitCode = EXIT_DONE;
@@ -297,5 +298,22 @@ int Info(const std::vector<std::string>& aFiles)
     }
     return exitCode;
 }
+
+Action DeclareInfo(CLI::App& aApp)
+{
+    auto files = std::make_shared<std::vector<std::string>>();
+    aApp.add_option("FILE", *files, "NITF or NSIF files")->required();
+    return [files] { return Info(*files); };
+}
+
+}  // namespace
+
+constexpr Command INFO{.name = "info",
+                       .summary = "What a person wants to see first",
+                       .examples =
+                           "info image.ntf\n"
+                           "info *.ntf",
+                       .exitCodes = EXIT_CODES_OF_FILES,
+                       .declare = DeclareInfo};
 
 }  // namespace OrmoNitf

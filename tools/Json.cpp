@@ -5,8 +5,10 @@
 #include "tools/Output.h"
 
 #include <algorithm>
+#include <memory>
 #include <string_view>
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace OrmoNitf {
@@ -18,29 +20,15 @@ namespace {
 
 std::string Base64(std::string_view aBytes)
 {
-    char* text = nullptr;
-    if (aBytes.empty() || !Util::CSMUtilString::Base64Encode(aBytes.data(), aBytes.size(), &text)) {
-        return {};
-    }
-    std::string encoded(text);
-    Util::CSMUtilString::DeleteCString(text);
-    return encoded;
+    std::string text;
+    Util::CSMUtilString::AppendBase64(aBytes, text);
+    return text;
 }
 
-/// Bytes above 127 become the Latin-1 code points of the same number.
 std::string Utf8OfLatin1(std::string_view aBytes)
 {
     std::string text;
-    text.reserve(aBytes.size());
-    for (const char character : aBytes) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte < 0x80) {
-            text += character;
-        } else {
-            text += static_cast<char>(0xC0U | (byte >> 6U));
-            text += static_cast<char>(0x80U | (byte & 0x3FU));
-        }
-    }
+    Util::CSMUtilString::AppendLatin1AsUtf8(aBytes, text);
     return text;
 }
 
@@ -161,8 +149,6 @@ Object Refusal(const std::string& aPath)
     return Object{{"file", Text(aPath)}, {"error", std::move(error)}};
 }
 
-}  // namespace
-
 int Json(const std::vector<std::string>& aFiles)
 {
     int exitCode = EXIT_DONE;
@@ -180,5 +166,22 @@ int Json(const std::vector<std::string>& aFiles)
     }
     return exitCode;
 }
+
+Action DeclareJson(CLI::App& aApp)
+{
+    auto files = std::make_shared<std::vector<std::string>>();
+    aApp.add_option("FILE", *files, "NITF or NSIF files")->required();
+    return [files] { return Json(*files); };
+}
+
+}  // namespace
+
+constexpr Command JSON{.name = "json",
+                       .summary = "One JSON object per file and line",
+                       .examples =
+                           "json image.ntf | python3 -m json.tool\n"
+                           "json *.ntf > all.ndjson",
+                       .exitCodes = EXIT_CODES_OF_FILES,
+                       .declare = DeclareJson};
 
 }  // namespace OrmoNitf

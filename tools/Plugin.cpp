@@ -7,9 +7,11 @@
 
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include <CLI/CLI.hpp>
 #include <dlfcn.h>
 
 namespace OrmoNitf {
@@ -57,8 +59,6 @@ void PrintCompanion(const SpecialOrmoDLLStatus& aStatus)
     }
 }
 
-}  // namespace
-
 int Plugin(const std::vector<std::string>& aLibraries)
 {
     int exitCode = EXIT_DONE;
@@ -90,5 +90,23 @@ int Plugin(const std::vector<std::string>& aLibraries)
     }
     return exitCode;
 }
+
+Action DeclarePlugin(CLI::App& aApp)
+{
+    auto libraries = std::make_shared<std::vector<std::string>>();
+    aApp.add_option("LIBRARY", *libraries, "Plug-in libraries to load first");
+    return [libraries] { return Plugin(*libraries); };
+}
+
+}  // namespace
+
+constexpr Command PLUGIN{
+    .name = "plugin",
+    .summary = "The CSM plug-in, the plug-ins registered beside it, companion libraries, classification level",
+    .examples =
+        "plugin\n"
+        "plugin ./libmodels.so",
+    .exitCodes = "0 done, 1 a library that brings no plug-in, 2 wrong use or a library that cannot be loaded",
+    .declare = DeclarePlugin};
 
 }  // namespace OrmoNitf

@@ -3,13 +3,23 @@
 #include "tools/Output.h"
 #include "tools/Picture.h"
 
+#include <memory>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
 namespace OrmoNitf {
 
 namespace {
 
 constexpr std::size_t WIDTH = 1024;
 
-}  // namespace
+struct Options
+{
+    std::string file;
+    unsigned image = 0;
+    std::string out;
+};
 
 int Preview(const std::string& aFile, unsigned aImage, const std::string& aOut)
 {
@@ -36,5 +46,24 @@ int Preview(const std::string& aFile, unsigned aImage, const std::string& aOut)
     }
     return WriteText(png, aOut, aFile);
 }
+
+Action DeclarePreview(CLI::App& aApp)
+{
+    auto options = std::make_shared<Options>();
+    aApp.add_option("FILE", options->file, "NITF or NSIF file")->required();
+    aApp.add_option("IMAGE", options->image, "Index among the image segments, from 0; the first without it");
+    aApp.add_option("-o", options->out, "File to write")->required();
+    return [options] { return Preview(options->file, options->image, options->out); };
+}
+
+}  // namespace
+
+constexpr Command PREVIEW{.name = "preview",
+                          .summary = "Writes an overview of an image as a PNG file",
+                          .examples =
+                              "preview image.ntf -o image.png\n"
+                              "preview image.ntf 1 -o second.png",
+                          .exitCodes = "0 done, 1 no such image, 2 wrong use or a file that cannot be opened",
+                          .declare = DeclarePreview};
 
 }  // namespace OrmoNitf

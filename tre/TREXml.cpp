@@ -2,6 +2,7 @@
 
 #include "fields/FieldXml.h"
 #include "fields/Xml.h"
+#include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "foundation/detail/HandOut.h"
 #include "nitf/NITFCnst.h"
@@ -40,7 +41,7 @@ void AppendData(std::string_view aData, std::string& aXml)
     if (text) {
         Detail::AppendXmlText(aData, aXml);
     } else {
-        Detail::AppendBase64(aData, aXml);
+        Util::CSMUtilString::AppendBase64(aData, aXml);
     }
     aXml += "</DATA>\n";
 }

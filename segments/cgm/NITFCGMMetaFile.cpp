@@ -249,7 +249,7 @@ bool NITFCGMMetaFile::Serialize(char** aOut, const char* aIndent) const
         }
         Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_BASE64_ENCODED, "T", xml);
         xml += '>';
-        Detail::AppendBase64(lines, xml);
+        Util::CSMUtilString::AppendBase64(lines, xml);
     }
     xml.append("</").append(name).append(">\n");
     return Detail::HandOut(xml, aOut);

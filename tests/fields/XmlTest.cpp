@@ -1,5 +1,6 @@
 #include "fields/MessageText.h"
 #include "fields/Xml.h"
+#include "foundation/CSMUtilString.h"
 
 #include <cctype>
 #include <map>
@@ -113,7 +114,7 @@ TEST(XmlTest, Base64HasTheStandardAlphabetAndPadding)
 {
     const auto encoded = [](std::string_view aBytes) {
         std::string text("x");
-        AppendBase64(aBytes, text);
+        Util::CSMUtilString::AppendBase64(aBytes, text);
         return text.substr(1);
     };
     EXPECT_EQ("", encoded(""));
