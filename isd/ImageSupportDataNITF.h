@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -160,6 +161,30 @@ public:
                                        std::size_t aSegment) const override;
     /// A new model, which the caller deletes, from the first plug-in that builds it; null when none does.
     TSMSensorModel* GetTSMSensorModel(const char* aSensorModelName, std::size_t aSegment) const override;
+
+    // Host metadata by property key (PropertyKey); docs/properties.md lists what answers each. Keys that no field of
+    // the file answers, and those that need a sensor model, have no answer. Images count from 0.
+
+    /// Key to value.
+    using OrmoMetadata = std::map<std::string, std::string>;
+
+    /// The value without the blanks around it; null when there is none. It lives as long as the object.
+    const char* GetOrmoMetadata(const char* aKey, std::size_t aImage) const noexcept;
+    /// The same, with the source that answered: "image TRE USE00A field SUN_EL".
+    bool FindOrmoMetadata(const char* aKey, std::size_t aImage, std::string& aValue, std::string& aSource) const;
+    /// All that is answered for an image. Without that image what is known of the file.
+    OrmoMetadata RetrieveOrmoMetadata(std::size_t aImage) const;
+    /// Its three parts: what names file and image, what is known of sensor and sun, and texts about all of it.
+    void RetrieveOrmoMetadataSet1(const NITFImageSubheader& aImage, OrmoMetadata& aMetadata) const;
+    void RetrieveOrmoMetadataSet2(const NITFImageSubheader& aImage, OrmoMetadata& aMetadata) const;
+    void RetrieveOrmoMetadataSet3(const NITFImageSubheader& aImage, OrmoMetadata& aMetadata) const;
+
+    /// The file in some lines for a person: what it is, where it comes from, its segments and its first ten images.
+    const char* GetImageSupportDataSummary() override;
+    std::string ComposeSummary() const;
+    /// Parts of it: the lines about the file; what an image is, empty when there is no such image.
+    std::string GetFileSummary() const;
+    std::string GetImageSummary(std::size_t aImage) const;
 
     const char* Serialize() override;
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;

@@ -35,7 +35,30 @@ expect 2 "$tool" json "$work/nothing.ntf"
 grep -q "^$work/nothing.ntf: " "$work/err" || fail "an error line does not begin with the file name"
 expect 2 "$tool" json "$work"
 expect 2 "$tool" nonsense
+expect 0 "$tool" property "$sample" nitf.version
+grep -qx "NITF02.10" "$work/out" || fail "property does not print the bare value"
+expect 0 "$tool" property "$sample"
+grep -q "^image.category: .*\[image subheader field ICAT\]" "$work/out" || fail "property does not tell the source"
+expect 1 "$tool" property "$sample" sensor.model.state
+expect 1 "$tool" property "$sample" sun.elevation
+grep -q "Did you mean sun.elevation.angle" "$work/err" || fail "property does not tell the key that is meant"
+expect 1 "$tool" property "$sample" nitf.version 99
+expect 2 "$tool" property
+expect 2 "$tool" property "$work/nothing.ntf" nitf.version
+"$tool" property --keys | cmp -s - "$source_dir/docs/properties.md" || fail "docs/properties.md is not what property --keys prints"
+for command in $("$tool" --help | sed -n '/^Subcommands:/,/^$/p' | awk 'NF > 1 {print $1}'); do
+    expect 0 "$tool" "$command" --help
+    [ "$(grep -c "^  ormo-nitf $command" "$work/out")" -ge 2 ] || fail "the help of $command has no two examples"
+    grep -q "^Exit codes: 0 " "$work/out" || fail "the help of $command does not tell its exit codes"
+done
+expect 2 "$tool" jsno "$sample"
+grep -q "Did you mean json?" "$work/err" || fail "a mistyped command is not recognised"
+expect 2 "$tool" extract "$sample" imag:0 -o "$work/none"
+grep -q "Did you mean image?" "$work/err" || fail "a mistyped segment is not recognised"
+expect 2 "$tool" extract "$sample" header -o "$work/none"
+expect 0 "$tool" extract "$sample" text:0 -o "$work/text0"
 expect 0 "$tool" extract "$sample" text 0 -o "$work/text"
+cmp -s "$work/text" "$work/text0" || fail "text:0 is not text 0"
 expect 1 "$tool" extract "$sample" text 9 -o "$work/text9"
 expect 0 "$tool" cgm "$sample"
 grep -q "^ENDMF" "$work/out" || fail "cgm does not print the clear text"

@@ -11,11 +11,12 @@ extern const Command INFO;
 extern const Command JSON;
 extern const Command PLUGIN;
 extern const Command PREVIEW;
+extern const Command PROPERTY;
 extern const Command VALIDATE;
 extern const Command XML;
 
 /// In the order in which --help lists them.
-inline constexpr const Command* COMMANDS[] = {&INFO,    &JSON, &XML,     &VALIDATE, &DESCRIBE,
-                                              &EXTRACT, &CGM,  &PREVIEW, &PLUGIN};
+inline constexpr const Command* COMMANDS[] = {&INFO,     &JSON,    &XML, &VALIDATE, &PROPERTY,
+                                              &DESCRIBE, &EXTRACT, &CGM, &PREVIEW,  &PLUGIN};
 
 }  // namespace OrmoNitf

@@ -2,8 +2,8 @@
 
 #include "foundation/CSMExceptions.h"
 #include "isd/ImageSupportDataFactory.h"
+#include "tools/Files.h"
 
-#include <iostream>
 #include <new>
 #include <stdexcept>
 #include <vector>
@@ -22,7 +22,7 @@ void PrintProblem(const std::string& aPath, const std::string& aText)
 {
     Finding finding;
     finding.sentence = aPath + ": " + aText;
-    std::cerr << finding.Line() << '\n';
+    Problems() << finding.Line() << '\n';
 }
 
 namespace {

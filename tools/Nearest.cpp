@@ -46,6 +46,13 @@ std::string Nearest(std::string_view aTyped, const std::vector<std::string>& aKn
         return nearest;
     }
     for (const std::string& known : aKnown) {
+        const bool isFront = aTyped.size() > 2 && aTyped.size() < known.size() &&
+                             Distance(aTyped, std::string_view(known).substr(0, aTyped.size())) == 0;
+        if (isFront && least > 1) {
+            least = 1;
+            nearest = known;
+            continue;
+        }
         if (const std::size_t distance = Distance(aTyped, known); distance < least) {
             least = distance;
             nearest = known;

@@ -1,7 +1,7 @@
 #include "tre/TRECatalogue.h"
 
 #include "fields/FieldValue.h"
-#include "fields/ValueRule.h"
+#include "fields/RowHelp.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "tre/SupportedTREs.h"
@@ -14,8 +14,6 @@
 namespace ORMO::SensorModel::CSM {
 
 using Detail::FieldRow;
-using Detail::FieldTable;
-using Detail::RowKind;
 
 namespace {
 
@@ -37,107 +35,11 @@ Found FindTag(const char* aTag)
     return {};
 }
 
-std::string Adjusted(std::string_view aTag, std::int32_t aAdjust)
-{
-    std::string text(aTag);
-    if (aAdjust != 0) {
-        text += aAdjust < 0 ? " - " : " + ";
-        text += std::to_string(aAdjust < 0 ? -aAdjust : aAdjust);
-    }
-    return text;
-}
-
-std::string WidthText(const FieldRow& aRow)
-{
-    if (aRow.width != 0) {
-        return std::to_string(aRow.width) + (aRow.width == 1 ? " byte" : " bytes");
-    }
-    if (aRow.count != nullptr && aRow.sizeTag != nullptr) {
-        return std::string("width by ") + aRow.sizeTag;
-    }
-    if (aRow.sizeTag != nullptr) {
-        return Adjusted(aRow.sizeTag, aRow.sizeAdjust) + " bytes";
-    }
-    return aRow.rest ? "all bytes left" : "computed width";
-}
-
-/// What a mark says, as a person would put it.
-std::string MarkText(const FieldRow& aRow)
-{
-    if (aRow.kind == RowKind::Repeat && aRow.rest) {
-        return "repeat to the end of the data:";
-    }
-    if (aRow.kind == RowKind::Repeat) {
-        return "repeat " +
-               (aRow.number != 0        ? std::to_string(aRow.number)
-                : aRow.count != nullptr ? std::string(aRow.label)
-                                        : Adjusted(aRow.tag, aRow.sizeAdjust)) +
-               " times:";
-    }
-    const std::string tag(aRow.tag);
-    switch (aRow.test) {
-        case Detail::Test::IsOneOf:
-            return "when " + tag + " is " + aRow.values + ":";
-        case Detail::Test::IsNoneOf:
-            return "when " + tag + " is not " + aRow.values + ":";
-        case Detail::Test::Filled:
-            return "when " + tag + " is filled:";
-        case Detail::Test::Positive:
-            return "when " + tag + " is above 0:";
-        case Detail::Test::AtLeast:
-            return "when " + tag + " is at least " + std::to_string(aRow.number) + ":";
-        case Detail::Test::AnyBit: {
-            std::string bits;
-            for (unsigned bit = 0; bit != 64; ++bit) {
-                if (((aRow.number >> bit) & 1U) != 0) {
-                    bits += (bits.empty() ? "" : " or ") + std::to_string(bit);
-                }
-            }
-            return "when " + tag + " has bit " + bits + " set:";
-        }
-        default:
-            return std::string("when ") + aRow.label + ":";
-    }
-}
-
-/// The alternatives of a value rule, one line each when they carry meanings.
-std::string ValuesText(const char* aValues)
-{
-    std::string text;
-    std::string_view rest(aValues);
-    while (!rest.empty()) {
-        const std::string_view alternative = Detail::NextAlternative(rest);
-        const auto mark = alternative.find('=', 1);
-        text += text.empty() ? "" : "; ";
-        text += alternative.substr(0, mark);
-        if (mark != std::string_view::npos) {
-            text += " (";
-            text += alternative.substr(mark + 1);
-            text += ')';
-        }
-    }
-    return text;
-}
-
 /// What is known of a layout: its rows, indented as they nest, with the values where they are a list, and its sources.
 void AppendLayout(const Detail::TreLayout& aLayout, std::string& aText)
 {
     aText += Detail::LayoutHelp(aLayout) + "\nFields:\n";
-    std::string indent = "  ";
-    for (const FieldRow& row : aLayout.table.Rows()) {
-        if (row.kind == RowKind::End) {
-            indent.resize(indent.size() - 2);
-        } else if (row.IsGroup()) {
-            aText += indent + MarkText(row) + '\n';
-            indent += "  ";
-        } else {
-            aText += indent + row.tag + "  " + row.label + " [" + WidthText(row) + ", " + Detail::NeedLetter(row.need);
-            aText += *row.unit == '\0' ? "]\n" : std::string(", ") + row.unit + "]\n";
-            if (std::string_view(row.values).find_first_of("=|", 1) != std::string_view::npos) {
-                aText += indent + "    " + ValuesText(row.values) + '\n';
-            }
-        }
-    }
+    Detail::AppendRowList(aLayout.table, aText);
     aText += '\n' + Detail::SourcesHelp(aLayout);
 }
 
@@ -187,29 +89,14 @@ bool TRECatalogue::DescribeField(const char* aTag, const char* aField, std::stri
     if (found.entry == nullptr || !found.entry->IsTyped()) {
         return false;
     }
-    const FieldTable& table = found.entry->layout().table;
-    const std::string field = Util::CSMUtilString::ToUpper(std::string(Detail::Trimmed(aField)));
-    Detail::Turns turns{};
-    std::uint16_t index = table.Resolve(field, turns);
-    index = index == Detail::NO_ROW ? table.FindAny(field) : index;
-    if (index == Detail::NO_ROW) {
-        return false;
+    for (const Detail::TreLayout* layout = &found.entry->layout(); layout != nullptr; layout = layout->other) {
+        if (const FieldRow* const row = Detail::FindRow(layout->table, Detail::Trimmed(aField)); row != nullptr) {
+            aText = Detail::FieldHelp(*row, row->tag, row->width) + '\n';
+            Detail::AppendRowDetails(*row, aText);
+            return true;
+        }
     }
-    const FieldRow& row = table.Row(index);
-    aText = Detail::FieldHelp(row, row.tag, row.width) + '\n';
-    if (row.width == 0) {
-        aText += "Width: " + WidthText(row) + ".\n";
-    }
-    if (*row.unit != '\0') {
-        aText += std::string("Unit: ") + row.unit + ".\n";
-    }
-    if (*row.values != '\0') {
-        aText += "Values: " + ValuesText(row.values) + ".\n";
-    }
-    if (row.alias != nullptr) {
-        aText += std::string("Also spelled ") + row.alias + ".\n";
-    }
-    return true;
+    return false;
 }
 
 std::vector<TreDetailedInfo> TRECatalogue::GetFields(const char* aTag)

@@ -9,13 +9,19 @@
 #include <atomic>
 #include <cstdint>
 #include <cstdio>
+#include <map>
 #include <memory>
+#include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM {
 
 class WrapperCSMIsdNITF;
+namespace Detail {
+struct PropertyRow;
+}
 
 /// A file, or a block of memory, that is to become an ISD.
 struct ImageSupportDataNITF::Request
@@ -56,7 +62,11 @@ struct ImageSupportDataNITF::Parts
     Detail::FindingList validation;
     std::FILE* stream = nullptr;
     bool isOfWrapped = false;  ///< made from a CSM API ISD
-    Detail::TsmViews tsm;      ///< the file as ISDs of the CSM API, and the sensor models that take it
+    std::string summary;       ///< the last that was handed out
+    std::mutex propertyLock;   ///< guards what follows
+    /// Answers to property keys by image; empty when there is none.
+    std::map<std::pair<const Detail::PropertyRow*, std::size_t>, std::string> properties;
+    Detail::TsmViews tsm;  ///< the file as ISDs of the CSM API, and the sensor models that take it
 
     Parts() = default;
     Parts(const Parts&) = delete;

@@ -40,7 +40,7 @@ inline constexpr const char* Join = JoinedLiteral<FIRST, SECOND>::VALUE.data();
 /// subheaders spell it in their own ways; the form of the classification reason differs in the file header.
 template<Literal CLAS, Literal PREFIX, Literal TITLE, Form REASON = Form::Ecs>
 inline constexpr FieldRow SECURITY_21[] = {
-    Field(CLAS.text,              1, Need::Required,      Form::Ecs, "T|S|C|R|U", "", Join<TITLE, " Security Classification [T|S|C|R|U]">),
+    Field(CLAS.text,              1, Need::Required,      Form::Ecs, "T=TOP SECRET|S=SECRET|C=CONFIDENTIAL|R=RESTRICTED|U=UNCLASSIFIED", "", Join<TITLE, " Security Classification [T|S|C|R|U]">),
     Field(Join<PREFIX, "CLSY">,   2, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Security Classification System [FIPS 10-4 country code|XN]">),
     Field(Join<PREFIX, "CODE">,  11, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Codewords">),
     Field(Join<PREFIX, "CTLH">,   2, Need::RequiredBlank, Form::Ecs, "", "", Join<TITLE, " Control and Handling">),
@@ -61,7 +61,7 @@ inline constexpr FieldRow SECURITY_21[] = {
 /// NITF 2.0, 167 bytes, or 207 with the downgrading event, of which not even blanks stand otherwise (MIL-STD-2500A).
 template<Literal PREFIX, Literal TITLE>
 inline constexpr FieldRow SECURITY_20[] = {
-    Field(Join<PREFIX, "CLAS">,   1, Need::Required, Form::Text, "T|S|C|R|U", "", Join<TITLE, " Security Classification [T|S|C|R|U]">),
+    Field(Join<PREFIX, "CLAS">,   1, Need::Required, Form::Text, "T=TOP SECRET|S=SECRET|C=CONFIDENTIAL|R=RESTRICTED|U=UNCLASSIFIED", "", Join<TITLE, " Security Classification [T|S|C|R|U]">),
     Field(Join<PREFIX, "CODE">,  40, Need::Optional, Form::Text, "", "", Join<TITLE, " Codewords">),
     Field(Join<PREFIX, "CTLH">,  40, Need::Optional, Form::Text, "", "", Join<TITLE, " Control and Handling">),
     Field(Join<PREFIX, "REL">,   40, Need::Optional, Form::Text, "", "", Join<TITLE, " Releasing Instructions">),

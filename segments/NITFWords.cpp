@@ -1,0 +1,191 @@
+#include "segments/NITFWords.h"
+
+#include "fields/ValueRule.h"
+#include "foundation/CSMUtilString.h"
+#include "foundation/detail/Ascii.h"
+#include "segments/detail/SegmentLayout.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace ORMO::SensorModel::CSM {
+
+namespace {
+
+constexpr std::array<std::string_view, 12> MONTHS{"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
+                                                  "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
+
+/// The parts of a date and time, from the year on; -1 and all behind it unknown.
+using DateParts = std::array<int, 6>;
+
+/// Two or four digits; -1 for hyphens, -2 for anything else.
+int Part(std::string_view aText)
+{
+    if (aText.find_first_not_of('-') == std::string_view::npos) {
+        return -1;
+    }
+    int value = 0;
+    for (const char character : aText) {
+        if (!Detail::IsDigit(character)) {
+            return -2;
+        }
+        value = value * 10 + (character - '0');
+    }
+    return value;
+}
+
+bool IsOfCalendar(const DateParts& aParts)
+{
+    constexpr std::array<int, 12> DAYS{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    const auto [year, month, day, hour, minute, second] = aParts;
+    if (year < 0 || std::any_of(aParts.begin(), aParts.end(), [](int aPart) { return aPart < -1; }) || month > 12 ||
+        month == 0 || day == 0 || hour > 23 || minute > 59 || second > 60) {
+        return false;
+    }
+    const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+    return month < 0 || day <= DAYS[static_cast<std::size_t>(month) - 1] + (month == 2 && leap ? 1 : 0);
+}
+
+/// CCYYMMDD with or without hhmmss.
+bool ReadLong(std::string_view aText, DateParts& aParts)
+{
+    aParts.fill(-1);
+    if (aText.size() != 8 && aText.size() != 14) {
+        return false;
+    }
+    aParts[0] = Part(aText.substr(0, 4));
+    for (std::size_t i = 1; i != 6 && 2 + 2 * i < aText.size(); ++i) {
+        aParts[i] = Part(aText.substr(2 + 2 * i, 2));
+    }
+    return IsOfCalendar(aParts);
+}
+
+/// DDhhmmssZMONYY; the two digits of the year are of 1950 to 2049.
+bool ReadOld(std::string_view aText, DateParts& aParts)
+{
+    if (aText.size() != 14 || aText[8] != 'Z') {
+        return false;
+    }
+    const auto* const month = std::find(MONTHS.begin(), MONTHS.end(), aText.substr(9, 3));
+    const int year = Part(aText.substr(12, 2));
+    aParts = {year < 0 ? -2 : year + (year < 50 ? 2000 : 1900),
+              month == MONTHS.end() ? -2 : static_cast<int>(month - MONTHS.begin()) + 1,
+              Part(aText.substr(0, 2)),
+              Part(aText.substr(2, 2)),
+              Part(aText.substr(4, 2)),
+              Part(aText.substr(6, 2))};
+    return IsOfCalendar(aParts);
+}
+
+}  // namespace
+
+std::string NITFWords::Shown(std::string_view aText)
+{
+    std::string text(Detail::Trimmed(aText));
+    std::replace_if(
+        text.begin(), text.end(),
+        [](char aCharacter) {
+            const auto byte = static_cast<unsigned char>(aCharacter);
+            return byte < 0x20 || byte > 0x7E;
+        },
+        '.');
+    return text;
+}
+
+std::string NITFWords::Shown(std::string_view aText, std::size_t aMost)
+{
+    constexpr std::size_t POINTS = 3;
+    std::string text = Shown(aText);
+    if (text.size() > aMost) {
+        text.resize(aMost < POINTS ? 0 : aMost - POINTS);
+        text += "...";
+    }
+    return text;
+}
+
+std::string NITFWords::Number(std::string_view aText)
+{
+    const std::string_view text = Detail::Trimmed(aText);
+    if (text.empty() || text.find_first_not_of("0123456789") != std::string_view::npos) {
+        return Shown(text);
+    }
+    const auto first = text.find_first_not_of('0');
+    return first == std::string_view::npos ? "0" : std::string(text.substr(first));
+}
+
+bool NITFWords::ToIsoDate(std::string_view aText, char aBetween, std::string& aDate)
+{
+    const std::string_view text = Detail::Trimmed(aText);
+    DateParts parts{};
+    if (!ReadLong(text, parts) && !ReadOld(text, parts)) {
+        return false;
+    }
+    const char between[] = {'\0', '-', '-', aBetween, ':', ':'};
+    std::string date;
+    for (std::size_t i = 0; i != parts.size() && parts[i] >= 0; ++i) {
+        const std::string digits = std::to_string(parts[i]);
+        date += i == 0 ? std::string() : std::string(1, between[i]);
+        date += std::string((i == 0 ? 4U : 2U) - digits.size(), '0') + digits;
+    }
+    // An hour alone would be no time of any notation.
+    date += parts[3] >= 0 && parts[4] < 0 ? ":--" : "";
+    aDate = date + (parts[3] >= 0 ? "Z" : "");
+    return true;
+}
+
+std::string NITFWords::Date(std::string_view aText, char aBetween)
+{
+    std::string date;
+    return ToIsoDate(aText, aBetween, date) ? date : Shown(aText);
+}
+
+std::string NITFWords::Size(std::uint64_t aBytes)
+{
+    constexpr std::array<const char*, 4> UNITS{"kB", "MB", "GB", "TB"};
+    constexpr double STEP = 1000.0;
+    if (aBytes < 1000) {
+        return Count(aBytes, "byte");
+    }
+    double size = static_cast<double>(aBytes) / STEP;
+    std::size_t unit = 0;
+    // What would be shown as 1000 belongs to the next unit.
+    while (size >= 999.5 && unit + 1 != UNITS.size()) {
+        size /= STEP;
+        ++unit;
+    }
+    const int decimals = size < 9.995 ? 2 : size < 99.95 ? 1 : 0;
+    return Util::CSMUtilString::ToString(size, false, decimals) + ' ' + UNITS[unit];
+}
+
+std::string NITFWords::Position(double aLatitude, double aLongitude)
+{
+    constexpr int DECIMALS = 6;
+    return Util::CSMUtilString::ToString(std::fabs(aLatitude), false, DECIMALS) + (aLatitude < 0 ? " S " : " N ") +
+           Util::CSMUtilString::ToString(std::fabs(aLongitude), false, DECIMALS) + (aLongitude < 0 ? " W" : " E");
+}
+
+std::string NITFWords::Count(std::uint64_t aCount, std::string_view aWord)
+{
+    return std::to_string(aCount) + ' ' + std::string(aWord) + (aCount == 1 ? "" : "s");
+}
+
+std::string NITFWords::Meaning(const NITFFieldSegment& aSegment, std::string_view aField)
+{
+    const std::string shown = Shown(aSegment.FieldText(aField));
+    const Detail::FieldTable& table = aSegment.Inside().layout->table;
+    const std::uint16_t row = table.FindAny(aField);
+    if (row == Detail::NO_ROW) {
+        return shown;
+    }
+    for (std::string_view rest(table.Row(row).values); !rest.empty();) {
+        const std::string_view alternative = Detail::NextAlternative(rest);
+        const std::string_view value = Detail::WithoutMeaning(alternative);
+        if (value == shown && value.size() < alternative.size()) {
+            return std::string(alternative.substr(value.size() + 1)) + " (" + shown + ')';
+        }
+    }
+    return shown;
+}
+
+}  // namespace ORMO::SensorModel::CSM
