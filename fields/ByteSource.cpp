@@ -102,6 +102,17 @@ ByteSource::~ByteSource()
     }
 }
 
+bool ByteSource::IsSameFile(const ByteSource& aOther) const noexcept
+{
+    if (this == &aOther) {
+        return true;
+    }
+    struct stat own = {};
+    struct stat other = {};
+    return !IsMemory() && !aOther.IsMemory() && m_size == aOther.m_size && ::fstat(m_descriptor, &own) == 0 &&
+           ::fstat(aOther.m_descriptor, &other) == 0 && own.st_dev == other.st_dev && own.st_ino == other.st_ino;
+}
+
 std::FILE* ByteSource::OpenStream() const noexcept
 {
     const int descriptor = m_descriptor < 0 ? -1 : ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);

@@ -37,6 +37,9 @@ public:
     std::uint64_t Size() const noexcept { return m_size; }
     const std::string& Path() const noexcept { return m_path; }
     bool IsMemory() const noexcept { return m_descriptor < 0; }
+    /// Whether both read the same file of the system, by whatever path; blocks of memory are the same when they are one
+    /// object.
+    bool IsSameFile(const ByteSource& aOther) const noexcept;
     /// A stdio stream of its own on the same open file, whatever became of its path; null for memory or when the system
     /// refuses. The caller closes it.
     [[nodiscard]] std::FILE* OpenStream() const noexcept;

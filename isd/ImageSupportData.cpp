@@ -4,6 +4,7 @@
 #include "foundation/CSMUtilFile.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/LastMessages.h"
+#include "foundation/detail/QueryMessages.h"
 
 #include <algorithm>
 #include <utility>
@@ -27,11 +28,23 @@ void CopyIfGiven(const std::string& aFrom, std::string& aTo)
     }
 }
 
+constexpr const char* NOT_SUPPORTED = "Function not supported.";
+
 }  // namespace
+
+/// What each thread's last query said.
+struct ImageSupportData::Queries : Detail::QueryMessages
+{
+};
+
+ImageSupportData::ImageSupportData() : m_queries(std::make_unique<Queries>()) {}
 
 ImageSupportData::ImageSupportData(const char* aFileName, const char* aImageFormat, const char* aFormatVersion,
                                    bool aIsOpen)
-    : m_fileName(Trimmed(aFileName)), m_imageFormat(Trimmed(aImageFormat)), m_formatVersion(Trimmed(aFormatVersion))
+    : m_fileName(Trimmed(aFileName)),
+      m_imageFormat(Trimmed(aImageFormat)),
+      m_formatVersion(Trimmed(aFormatVersion)),
+      m_queries(std::make_unique<Queries>())
 {
     constexpr const char* SOURCE = "ImageSupportData::ImageSupportData";
     if (m_imageFormat.empty()) {
@@ -43,7 +56,7 @@ ImageSupportData::ImageSupportData(const char* aFileName, const char* aImageForm
     }
 }
 
-ImageSupportData::ImageSupportData(const ImageSupportData& aOther)
+ImageSupportData::ImageSupportData(const ImageSupportData& aOther) : m_queries(std::make_unique<Queries>())
 {
     if (!ImageSupportData::CloneObj(aOther)) {
         throw RequestedOperationFailedException(
@@ -63,29 +76,29 @@ bool ImageSupportData::GetAllTsmISDs(const tsm_ISD**& aTsmISDs, std::size_t& aCo
 
 bool ImageSupportData::GetFieldAsBool(const char* /*aSegment*/, const char* /*aField*/, bool& /*aValue*/)
 {
-    return RefuseField();
+    return RefuseQuery(NOT_SUPPORTED);
 }
 
 bool ImageSupportData::GetFieldAsDouble(const char* /*aSegment*/, const char* /*aField*/, double& /*aValue*/)
 {
-    return RefuseField();
+    return RefuseQuery(NOT_SUPPORTED);
 }
 
 bool ImageSupportData::GetFieldAsLong(const char* /*aSegment*/, const char* /*aField*/, long& /*aValue*/)
 {
-    return RefuseField();
+    return RefuseQuery(NOT_SUPPORTED);
 }
 
 bool ImageSupportData::GetFieldAsString(const char* /*aSegment*/, const char* /*aField*/, const char*& /*aValue*/,
                                         std::size_t& /*aLength*/)
 {
-    return RefuseField();
+    return RefuseQuery(NOT_SUPPORTED);
 }
 
 bool ImageSupportData::GetFieldAsUnsignedLong(const char* /*aSegment*/, const char* /*aField*/,
                                               unsigned long& /*aValue*/)
 {
-    return RefuseField();
+    return RefuseQuery(NOT_SUPPORTED);
 }
 
 std::FILE* ImageSupportData::GetFileHandle() const
@@ -212,12 +225,14 @@ bool ImageSupportData::SetCurrentImageSegment(long /*aSegment*/)
 
 const char* ImageSupportData::GetErrorMessage() const noexcept
 {
-    return TextOrNull(m_errorMessage);
+    const Queries::Texts* const texts = m_queries->Find();
+    return TextOrNull(texts == nullptr ? m_errorMessage : texts->error);
 }
 
 const char* ImageSupportData::GetWarningMessage() const noexcept
 {
-    return TextOrNull(m_warningMessage);
+    const Queries::Texts* const texts = m_queries->Find();
+    return TextOrNull(texts == nullptr ? m_warningMessage : texts->warning);
 }
 
 const char* ImageSupportData::GetValidationSummaryReport() const noexcept
@@ -307,6 +322,7 @@ void ImageSupportData::Assign(const ImageSupportData& aOther)
         CopyIfGiven(aOther.m_formatVersion, m_formatVersion);
         CopyIfGiven(aOther.m_keptText, m_keptText);
         ReleaseMarkings();
+        m_queries->Forget();
     } catch (...) {
         // Only memory can be short here; a half copied object would pass for the other's file.
         CleanupImageSupportData();
@@ -366,14 +382,28 @@ void ImageSupportData::Swap(ImageSupportData& aFirst, ImageSupportData& aSecond)
     std::swap(aFirst.m_validationSummaryReport, aSecond.m_validationSummaryReport);
     std::swap(aFirst.m_validationErrorCount, aSecond.m_validationErrorCount);
     std::swap(aFirst.m_validationWarningCount, aSecond.m_validationWarningCount);
-    aFirst.ReleaseMarkings();
-    aSecond.ReleaseMarkings();
+    for (ImageSupportData* const one : {&aFirst, &aSecond}) {
+        one->ReleaseMarkings();
+        one->m_queries->Forget();
+    }
 }
 
-void ImageSupportData::ClearMessages() noexcept
+void ImageSupportData::ClearMessages() const
 {
-    m_errorMessage.clear();
-    m_warningMessage.clear();
+    m_queries->Begin();
+}
+
+void ImageSupportData::SetMessages(const char* aError, const char* aWarning) const
+{
+    Queries::Texts& texts = m_queries->Current();
+    texts.error = aError == nullptr ? "" : aError;
+    texts.warning = aWarning == nullptr ? "" : aWarning;
+}
+
+bool ImageSupportData::RefuseQuery(const std::string& aError) const
+{
+    SetMessages(aError.c_str(), nullptr);
+    return false;
 }
 
 void ImageSupportData::CleanupImageSupportData() noexcept
@@ -395,13 +425,6 @@ void ImageSupportData::ReleaseMarkings() noexcept
     m_markingsBuilt = false;
     m_markings.clear();
     m_markingTexts.clear();
-}
-
-bool ImageSupportData::RefuseField()
-{
-    m_errorMessage = "Function not supported.";
-    m_warningMessage.clear();
-    return false;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -89,7 +90,8 @@ public:
     /// Chooses the image segment that queries without a segment of their own are about; false when there is none.
     virtual bool SetCurrentImageSegment(long aSegment);
 
-    /// Texts of the last operation that set them; null when there is nothing to say.
+    /// Texts of the query that this thread asked last or, before it asked any, of making the object; null when there is
+    /// nothing to say. They stay until this thread asks again.
     const char* GetErrorMessage() const noexcept;
     const char* GetWarningMessage() const noexcept;
     /// The findings of the last rigorous validation; empty before the first.
@@ -112,7 +114,7 @@ public:
     long GetCurrentImageSegment() const noexcept;
 
 protected:
-    ImageSupportData() = default;
+    ImageSupportData();
     /// Trims the texts; the format version may be null. Throws InitializationException for an empty format and, unless
     /// whoever calls has the file open already, for a path that leads to no file.
     ImageSupportData(const char* aFileName, const char* aImageFormat, const char* aFormatVersion, bool aIsOpen = false);
@@ -150,7 +152,14 @@ protected:
     /// Exchanges the content of two objects of one class.
     virtual void Swap(ImageSupportData& aFirst, ImageSupportData& aSecond);
 
-    void ClearMessages() noexcept;
+    // Queries of const objects may come from several threads at once, so each thread has texts of its own.
+
+    /// Begins a query: the texts of this thread's last one are gone, and those of making the object stand behind.
+    void ClearMessages() const;
+    /// The texts of this thread's present query; null stands for none.
+    void SetMessages(const char* aError, const char* aWarning) const;
+    /// The same for a query without an answer; answers false.
+    bool RefuseQuery(const std::string& aError) const;
 
     // An empty text stands for none: operations hand it out as null.
     bool m_markingsBuilt = false;
@@ -163,8 +172,8 @@ protected:
     Util::CSMCnst::ClassType m_classificationLevel = Util::CSMCnst::CLASS_TYPE_UNCLASSIFIED;
     long m_currentImageSegment = NO_IMAGE_SEGMENT;
     std::string m_highestMarking;
-    std::string m_errorMessage;
-    std::string m_warningMessage;
+    std::string m_errorMessage;    ///< of making the object
+    std::string m_warningMessage;  ///< as above
     std::string m_validationSummaryReport;
     unsigned long m_validationErrorCount = 0;
     unsigned long m_validationWarningCount = 0;
@@ -172,13 +181,17 @@ protected:
     static constexpr long NO_IMAGE_SEGMENT = -1;
 
 private:
+    friend class ImageSupportDataFactory;  // through which hosts copy and compare
+
+    struct Queries;
+
     void CleanupImageSupportData() noexcept;
     void ReleaseMarkings() noexcept;
-    bool RefuseField();
 
     /// The distinct markings, and the list that is handed out: the text of each.
     std::vector<std::string> m_markingTexts;
     std::vector<const char*> m_markings;
+    std::unique_ptr<const Queries> m_queries;  // never null
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -15,6 +15,7 @@
 
 #include <new>
 #include <stdexcept>
+#include <typeinfo>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -244,6 +245,45 @@ void ImageSupportDataFactory::CreateISD(const char* aPath, ImageSupportData** aO
     if (*aOut == nullptr) {
         FailConstruction(ImageSupportDataOSDEFactory::GetErrorMessage());
     }
+}
+
+bool ImageSupportDataFactory::Clone(const ImageSupportData* aIsd, ImageSupportData** aOut)
+{
+    Messages().Clear();
+    ImageSupportDataNITF* copy = nullptr;
+    const auto* const nitf = dynamic_cast<const ImageSupportDataNITF*>(aIsd);
+    const bool done = ImageSupportDataNITFFactory::Clone(nitf, aOut == nullptr ? nullptr : &copy);
+    Messages().SetError(ImageSupportDataNITFFactory::GetErrorMessage());
+    if (aOut != nullptr) {
+        *aOut = copy;
+    }
+    return done;
+}
+
+bool ImageSupportDataFactory::Assign(ImageSupportData& aTarget, const ImageSupportData& aSource)
+{
+    Messages().Clear();
+    try {
+        aTarget.Assign(aSource);
+        return true;
+    } catch (const RequestedOperationFailedException& exception) {
+        Messages().SetError(exception.GetAdditionalMessage());
+        return false;
+    }
+}
+
+bool ImageSupportDataFactory::AreEqual(const ImageSupportData& aLeft, const ImageSupportData& aRight)
+{
+    return typeid(aLeft) == typeid(aRight) && aLeft == aRight;
+}
+
+bool ImageSupportDataFactory::Swap(ImageSupportData& aLeft, ImageSupportData& aRight)
+{
+    const bool isOneClass = typeid(aLeft) == typeid(aRight);
+    if (isOneClass) {
+        aLeft.Swap(aLeft, aRight);
+    }
+    return isOneClass;
 }
 
 void ImageSupportDataFactory::Destroy(ImageSupportData** aIsd)

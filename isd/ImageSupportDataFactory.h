@@ -54,6 +54,21 @@ public:
     static void CreateISD(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2, int aVersion,
                           SupportedISD::Type aType);
 
+    // Copies. An ISD is made by this factory only, so what hosts do with two of them is done here too.
+
+    /// A deep copy, to be released with Destroy. It owns all but the open file and outlives what it was copied from.
+    /// False, with a text in GetErrorMessage and nothing in `*aOut`, for a missing argument, for an ISD that a
+    /// companion library made, and when memory is short.
+    static bool Clone(const ImageSupportData* aIsd, ImageSupportData** aOut);
+    /// Makes an ISD a deep copy of another one of its class; pointers that it handed out are void. False, with a text
+    /// in GetErrorMessage and the target as it was, when it cannot be done.
+    static bool Assign(ImageSupportData& aTarget, const ImageSupportData& aSource);
+    /// Whether both are of one class and speak of the same file, with the same current image segment, fields, TREs and
+    /// data.
+    static bool AreEqual(const ImageSupportData& aLeft, const ImageSupportData& aRight);
+    /// Exchanges the content of two ISDs of one class; false, with nothing changed, for two of different classes.
+    static bool Swap(ImageSupportData& aLeft, ImageSupportData& aRight);
+
     /// Releases an ISD and nulls the pointer. Null is ignored.
     static void Destroy(ImageSupportData** aIsd);
 
@@ -67,8 +82,8 @@ public:
     /// What this thread's last call that makes an ISD found wrong with a file that it refused, the reason why a file
     /// cannot be opened or is no NITF file included; empty when there was nothing.
     static const std::vector<Finding>& GetFindings() noexcept;
-    /// Texts of this thread's last call that makes or destroys, null when there is nothing to say. They live until the
-    /// next such call.
+    /// Texts of this thread's last call that makes, copies or destroys, null when there is nothing to say. They live
+    /// until the next such call.
     static const char* GetErrorMessage() noexcept;
     static const char* GetWarningMessage() noexcept;
 

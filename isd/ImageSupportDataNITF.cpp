@@ -11,13 +11,6 @@
 
 namespace ORMO::SensorModel::CSM {
 
-ImageSupportDataNITF::Parts::~Parts()
-{
-    if (stream != nullptr) {
-        std::fclose(stream);
-    }
-}
-
 NITFFieldSegment* ImageSupportDataNITF::Parts::Segment(NITFCnst::DataSegmentType aKind,
                                                        std::size_t aIndex) const noexcept
 {
@@ -34,6 +27,11 @@ NITFFieldSegment* ImageSupportDataNITF::Parts::Segment(NITFCnst::DataSegmentType
 NITFDESSubheader* ImageSupportDataNITF::Parts::Des(std::size_t aIndex) const noexcept
 {
     return static_cast<NITFDESSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aIndex));
+}
+
+NITFImageSubheader* ImageSupportDataNITF::Parts::Image(std::size_t aIndex) const noexcept
+{
+    return static_cast<NITFImageSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_IMAGE, aIndex));
 }
 
 std::size_t ImageSupportDataNITF::Parts::Count(NITFCnst::DataSegmentType aKind) const noexcept
@@ -79,12 +77,32 @@ SupportedISD::Type ImageSupportDataNITF::GetIsdRasterFormat()
     return SupportedISD::ISD_TYPE_NITF;
 }
 
+namespace {
+
+std::FILE* StreamOf(const Detail::Lazy<Detail::IsdStream>& aStream, const ImageSupportDataNITF::Parts& aParts)
+{
+    const Detail::IsdStream* const stream = aStream.TryGet([&aParts]() -> std::unique_ptr<const Detail::IsdStream> {
+        std::FILE* const file = aParts.source->OpenStream();
+        return file == nullptr ? nullptr : std::make_unique<const Detail::IsdStream>(file, aParts.areStreamsClosed);
+    });
+    return stream == nullptr ? nullptr : stream->file;
+}
+
+}  // namespace
+
 std::FILE* ImageSupportDataNITF::GetFileHandle() const
 {
-    if (m_parts->stream == nullptr) {
-        m_parts->stream = m_parts->source->OpenStream();
-    }
-    return m_parts->stream;
+    return StreamOf(m_parts->stream, *m_parts);
+}
+
+std::FILE* ImageSupportDataNITF::GetImagePixelFileHandle() const
+{
+    return StreamOf(m_parts->pixelStream, *m_parts);
+}
+
+void ImageSupportDataNITF::CloseFileHandleOnResetOrDelete(bool aClose) noexcept
+{
+    m_parts->areStreamsClosed = aClose;
 }
 
 const NITFFileHeader* ImageSupportDataNITF::GetNITFFileHeader() const noexcept
@@ -102,53 +120,79 @@ long ImageSupportDataNITF::GetNumOfImageSegments() const
     return static_cast<long>(m_parts->Count(NITFCnst::DATA_SEGMENT_TYPE_IMAGE));
 }
 
-NITFFieldSegment* ImageSupportDataNITF::Segment(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const noexcept
+const char* ImageSupportDataNITF::GetNITFFileHeaderFieldFVER() const noexcept
 {
-    return m_parts->Segment(aKind, aIndex);
+    constexpr std::size_t WIDTH_OF_NAME = 4;  // "NITF" or "NSIF"
+    return m_parts->versionText.c_str() + std::min(WIDTH_OF_NAME, m_parts->versionText.size());
 }
 
-const NITFFieldSegment* ImageSupportDataNITF::GetSegment(NITFCnst::DataSegmentType aKind,
-                                                         std::size_t aIndex) const noexcept
+const NITFFieldSegment* ImageSupportDataNITF::GetSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const
 {
-    return m_parts->Segment(aKind, aIndex);
+    ClearMessages();
+    const NITFFieldSegment* const segment = m_parts->Segment(aKind, aIndex);
+    if (segment == nullptr) {
+        RefuseQuery("ERROR: There is no segment " + Detail::Quoted(Detail::SegmentName(aKind, aIndex)) +
+                    (aIndex < m_parts->Count(aKind) ? " to ask: it was not read." : " in the file."));
+    }
+    return segment;
 }
 
 // A kind has one class, so the segment of a kind is of that class.
-const NITFImageSubheader* ImageSupportDataNITF::GetImageSubheader(std::size_t aIndex) const noexcept
+const NITFImageSubheader* ImageSupportDataNITF::GetImageSubheader(std::size_t aIndex) const
 {
-    return static_cast<const NITFImageSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_IMAGE, aIndex));
+    return static_cast<const NITFImageSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_IMAGE, aIndex));
 }
 
-const NITFTextSubheader* ImageSupportDataNITF::GetTextSubheader(std::size_t aIndex) const noexcept
+const NITFTextSubheader* ImageSupportDataNITF::GetTextSubheader(std::size_t aIndex) const
 {
-    return static_cast<const NITFTextSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_TEXT, aIndex));
+    return static_cast<const NITFTextSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_TEXT, aIndex));
 }
 
-const NITFDESSubheader* ImageSupportDataNITF::GetDataExtensionSegment(std::size_t aIndex) const noexcept
+const NITF21GraphicSubheader* ImageSupportDataNITF::GetGraphicSubheader(std::size_t aIndex) const
 {
-    return m_parts->Des(aIndex);
+    return static_cast<const NITF21GraphicSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC, aIndex));
 }
 
-const NITFRESSubheader* ImageSupportDataNITF::GetReservedExtensionSegment(std::size_t aIndex) const noexcept
+const NITF20SymbolSubheader* ImageSupportDataNITF::GetSymbolSubheader(std::size_t aIndex) const
 {
-    return static_cast<const NITFRESSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_RESERVED_EXTENSION, aIndex));
+    return static_cast<const NITF20SymbolSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_SYMBOL, aIndex));
 }
 
-bool ImageSupportDataNITF::IsOverflowPlaced(std::size_t aDes) const noexcept
+const NITF20LabelSubheader* ImageSupportDataNITF::GetLabelSubheader(std::size_t aIndex) const
 {
-    const NITFDESSubheader* const des = m_parts->Des(aDes);
-    return des != nullptr && des->IsOverflowPlaced();
+    return static_cast<const NITF20LabelSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_LABEL, aIndex));
 }
 
-NITFFieldSegment* ImageSupportDataNITF::AskedSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex)
+const NITFDESSubheader* ImageSupportDataNITF::GetDataExtensionSegment(std::size_t aIndex) const
+{
+    return static_cast<const NITFDESSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aIndex));
+}
+
+const NITFRESSubheader* ImageSupportDataNITF::GetReservedExtensionSegment(std::size_t aIndex) const
+{
+    return static_cast<const NITFRESSubheader*>(GetSegment(NITFCnst::DATA_SEGMENT_TYPE_RESERVED_EXTENSION, aIndex));
+}
+
+bool ImageSupportDataNITF::CheckVersionSpecific(NITFCnst::DataSegmentType aKind, std::string_view aName) const
 {
     ClearMessages();
-    NITFFieldSegment* const segment = Segment(aKind, aIndex);
-    if (segment == nullptr) {
-        m_errorMessage = "ERROR: There is no segment " + Detail::Quoted(Detail::SegmentName(aKind, aIndex)) +
-                         " in the file, or it was not read.";
-    }
-    return segment;
+    return Detail::IsVersionSpecific(aKind, m_parts->Version()) ||
+           RefuseQuery("ERROR: " + Detail::Quoted(aName) + " names no segments that only " + GetFileTypeAndVersion() +
+                       " has.");
+}
+
+const NITFDrawnSegment* ImageSupportDataNITF::GetVersionSpecificDataSegment(NITFCnst::DataSegmentType aKind,
+                                                                            std::size_t aIndex) const
+{
+    return CheckVersionSpecific(aKind, NITFStdDataSegment::GetDataSegmentName(aKind))
+               ? static_cast<const NITFDrawnSegment*>(GetSegment(aKind, aIndex))
+               : nullptr;
+}
+
+bool ImageSupportDataNITF::IsOverflowPlaced(std::size_t aDes) const
+{
+    const NITFDESSubheader* const des = GetDataExtensionSegment(aDes);
+    return des != nullptr && des->IsOverflowPlaced();
 }
 
 std::vector<Finding> ImageSupportDataNITF::GetFindings() const
@@ -200,153 +244,125 @@ std::vector<std::string> ImageSupportDataNITF::GetValidationLines() const
     return lines;
 }
 
-bool ImageSupportDataNITF::GetDataSegmentTRE(NITFCnst::DataSegmentType aKind, std::size_t aIndex, const char* aTag,
-                                             const TRE**& aArray, std::size_t& aCount, bool aIncludeOverflow) const
-{
-    aArray = nullptr;
-    aCount = 0;
-    const NITFFieldSegment* const segment = Segment(aKind, aIndex);
-    return segment != nullptr && segment->GetTRE(aTag, aArray, aCount, aIncludeOverflow);
-}
-
-bool ImageSupportDataNITF::GetAllDataSegmentTREs(NITFCnst::DataSegmentType aKind, std::size_t aIndex,
-                                                 const TRE**& aArray, std::size_t& aCount, bool aIncludeOverflow) const
-{
-    aArray = nullptr;
-    aCount = 0;
-    const NITFFieldSegment* const segment = Segment(aKind, aIndex);
-    return segment != nullptr && segment->GetAllTREs(aArray, aCount, aIncludeOverflow);
-}
-
 bool ImageSupportDataNITF::SetCurrentImageSegment(long aSegment)
 {
-    if (aSegment < 0 || aSegment >= GetNumOfImageSegments()) {
+    if (GetImageSubheader(static_cast<std::size_t>(aSegment)) == nullptr) {
         return false;
     }
     m_currentImageSegment = aSegment;
     return true;
 }
 
-bool ImageSupportDataNITF::WriteSegmentData(NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::FILE* aOut)
+bool ImageSupportDataNITF::WriteSegmentData(NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::FILE* aOut) const
 {
     constexpr std::uint64_t PIECE = 1U << 20U;
     ClearMessages();
+    const std::string name = Detail::SegmentName(aKind, aIndex);
     const NITFStdDataSegmentInfos::Infos* const infos = m_parts->infos.Get(aKind);
     if (infos == nullptr || aIndex >= infos->size() || aOut == nullptr) {
-        m_errorMessage =
-            "ERROR: There is no segment " + Detail::Quoted(Detail::SegmentName(aKind, aIndex)) + " in the file.";
-        return false;
+        return RefuseQuery("ERROR: There is no segment " + Detail::Quoted(name) + " in the file.");
     }
-    const std::uint64_t end = (*infos)[aIndex]->GetSegmentDataStart() + (*infos)[aIndex]->GetSegmentDataSize();
+    const std::uint64_t start = (*infos)[aIndex]->GetSegmentDataStart();
+    const std::uint64_t end = start + (*infos)[aIndex]->GetSegmentDataSize();
     if (end > m_parts->source->Size()) {
-        m_errorMessage = "ERROR: The data of " + Detail::SegmentName(aKind, aIndex) + " end at byte " +
-                         std::to_string(end) + ", beyond the end of the file at " +
-                         std::to_string(m_parts->source->Size()) + ".";
-        return false;
+        return RefuseQuery("ERROR: The data of " + name + " end at byte " + std::to_string(end) +
+                           ", beyond the end of the file at " + std::to_string(m_parts->source->Size()) + ".");
     }
     std::string piece;
-    for (std::uint64_t offset = (*infos)[aIndex]->GetSegmentDataStart(); offset != end; offset += piece.size()) {
+    for (std::uint64_t offset = start; offset != end; offset += piece.size()) {
         if (!m_parts->source->Read(offset, std::min(PIECE, end - offset), piece) ||
             std::fwrite(piece.data(), 1, piece.size(), aOut) != piece.size()) {
-            m_errorMessage = "ERROR: The data of " + Detail::SegmentName(aKind, aIndex) + " cannot be read or written.";
-            return false;
+            return RefuseQuery("ERROR: The data of " + name + " cannot be read or written.");
         }
     }
     return true;
 }
 
-NITFFieldSegment* ImageSupportDataNITF::SegmentOfName(const char* aName)
+bool ImageSupportDataNITF::PlaceOfName(const char* aName, NITFCnst::DataSegmentType& aKind, std::size_t& aIndex) const
 {
-    std::string_view name = Detail::Trimmed(aName);
-    std::size_t index = 0;
+    const std::string_view name = Detail::Trimmed(aName);
     const auto colon = name.find(':');
-    const bool indexed = colon != std::string_view::npos;
-    if (indexed && !Detail::ToCount(name.substr(colon + 1), index)) {
-        return nullptr;
+    aKind = NITFStdDataSegment::GetDataSegmentCode(std::string(name.substr(0, colon)).c_str());
+    aIndex = 0;
+    bool isName = aKind != NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+    if (colon != std::string_view::npos) {
+        isName = isName && Detail::ToCount(name.substr(colon + 1), aIndex);
+    } else if (aKind == NITFCnst::DATA_SEGMENT_TYPE_IMAGE && m_currentImageSegment >= 0) {
+        aIndex = static_cast<std::size_t>(m_currentImageSegment);
     }
-    const NITFCnst::DataSegmentType kind =
-        NITFStdDataSegment::GetDataSegmentCode(std::string(name.substr(0, colon)).c_str());
-    if (!indexed && kind == NITFCnst::DATA_SEGMENT_TYPE_IMAGE && m_currentImageSegment >= 0) {
-        index = static_cast<std::size_t>(m_currentImageSegment);
+    if (!isName) {
+        ClearMessages();
+        RefuseQuery("ERROR: There is no segment " + Detail::Quoted(Detail::ViewOf(aName)) + " in the file.");
     }
-    return Segment(kind, index);
+    return isName;
 }
 
-template<typename Value, typename Ask>
-bool ImageSupportDataNITF::AskSegment(const char* aSegment, Value& aValue, Ask aAsk)
+const NITFFieldSegment* ImageSupportDataNITF::SegmentOfName(const char* aName) const
 {
-    ClearMessages();
-    NITFFieldSegment* const segment = SegmentOfName(aSegment);
-    if (segment == nullptr) {
-        m_errorMessage = "ERROR: There is no segment " + Detail::Quoted(Detail::ViewOf(aSegment)) + " in the file.";
-        return false;
-    }
-    const bool answered = aAsk(*segment, aValue);
-    m_errorMessage = segment->GetErrorMessage();
-    m_warningMessage = segment->GetWarningMessage();
-    return answered;
+    NITFCnst::DataSegmentType kind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+    std::size_t index = 0;
+    return PlaceOfName(aName, kind, index) ? GetSegment(kind, index) : nullptr;
+}
+
+bool ImageSupportDataNITF::Told(bool aAnswer, const NITFFieldSegment& aSegment) const
+{
+    SetMessages(aSegment.GetErrorMessage(), aSegment.GetWarningMessage());
+    return aAnswer;
+}
+
+template<typename Ask>
+bool ImageSupportDataNITF::AskSegment(const char* aSegment, Ask aAsk) const
+{
+    const NITFFieldSegment* const segment = SegmentOfName(aSegment);
+    return segment != nullptr && Told(aAsk(*segment), *segment);
 }
 
 bool ImageSupportDataNITF::GetFieldAsBool(const char* aSegment, const char* aField, bool& aValue)
 {
-    return AskSegment(aSegment, aValue,
-                      [aField](NITFFieldSegment& aOwner, bool& aOut) { return aOwner.GetFieldAsBool(aField, aOut); });
+    return AskSegment(aSegment, [&](const NITFFieldSegment& aOwner) { return aOwner.GetFieldAsBool(aField, aValue); });
 }
 
 bool ImageSupportDataNITF::GetFieldAsDouble(const char* aSegment, const char* aField, double& aValue)
 {
-    return AskSegment(aSegment, aValue, [aField](NITFFieldSegment& aOwner, double& aOut) {
-        return aOwner.GetFieldAsDouble(aField, aOut);
-    });
+    return AskSegment(aSegment,
+                      [&](const NITFFieldSegment& aOwner) { return aOwner.GetFieldAsDouble(aField, aValue); });
 }
 
 bool ImageSupportDataNITF::GetFieldAsLong(const char* aSegment, const char* aField, long& aValue)
 {
-    return AskSegment(aSegment, aValue,
-                      [aField](NITFFieldSegment& aOwner, long& aOut) { return aOwner.GetFieldAsLong(aField, aOut); });
+    return AskSegment(aSegment, [&](const NITFFieldSegment& aOwner) { return aOwner.GetFieldAsLong(aField, aValue); });
 }
 
 bool ImageSupportDataNITF::GetFieldAsString(const char* aSegment, const char* aField, const char*& aValue,
                                             std::size_t& aLength)
 {
-    return AskSegment(aSegment, aValue, [aField, &aLength](NITFFieldSegment& aOwner, const char*& aOut) {
-        return aOwner.GetFieldAsString(aField, aOut, aLength);
-    });
+    return AskSegment(aSegment,
+                      [&](const NITFFieldSegment& aOwner) { return aOwner.GetFieldAsString(aField, aValue, aLength); });
 }
 
 bool ImageSupportDataNITF::GetFieldAsUnsignedLong(const char* aSegment, const char* aField, unsigned long& aValue)
 {
-    return AskSegment(aSegment, aValue, [aField](NITFFieldSegment& aOwner, unsigned long& aOut) {
-        return aOwner.GetFieldAsUnsignedLong(aField, aOut);
-    });
+    return AskSegment(aSegment,
+                      [&](const NITFFieldSegment& aOwner) { return aOwner.GetFieldAsUnsignedLong(aField, aValue); });
 }
 
-void ImageSupportDataNITF::CollectSecurityClassificationMarkings(std::vector<std::string>& aMarkings) const
+int ImageSupportDataNITF::IsFieldValueInRange(const char* aSegment, const char* aField, const char* aValue) const
 {
-    aMarkings.emplace_back(Detail::Trimmed(m_parts->header->GetClassification()));
-    for (const std::unique_ptr<NITFFieldSegment>& segment : m_parts->segments) {
-        if (segment != nullptr) {
-            aMarkings.emplace_back(Detail::Trimmed(segment->GetClassification()));
-        }
+    const NITFFieldSegment* const segment = SegmentOfName(aSegment);
+    const int verdict = segment == nullptr ? -1 : segment->IsFieldValueInRange(aField, aValue);
+    if (segment != nullptr && verdict < 0) {
+        RefuseQuery("ERROR: " + Detail::Quoted(Detail::ViewOf(aSegment)) + " has no field " +
+                    Detail::Quoted(Detail::ViewOf(aField)) + ", or there is no value to hold against it.");
     }
+    return verdict;
 }
 
-void ImageSupportDataNITF::SetHighestSecurityClassificationMarking()
+const char* ImageSupportDataNITF::SerializeDataSegment(const char* aSegment)
 {
-    std::vector<std::string> markings;
-    CollectSecurityClassificationMarkings(markings);
-    int highest = NITFCnst::RANK_SC_UNKNOWN;
-    for (const std::string& marking : markings) {
-        const int rank = NITFCnst::GetSecurityClassificationRank(marking.c_str());
-        if (rank > highest) {
-            highest = rank;
-            m_highestMarking = marking;
-        }
-    }
-    // Whatever is classified calls for a SECRET system, TOP SECRET for the one above it.
-    m_classificationLevel = highest >= NITFCnst::RANK_SC_TOP_SECRET    ? Util::CSMCnst::CLASS_TYPE_SCI
-                            : highest > NITFCnst::RANK_SC_UNCLASSIFIED ? Util::CSMCnst::CLASS_TYPE_SECRET
-                                                                       : Util::CSMCnst::CLASS_TYPE_UNCLASSIFIED;
+    NITFCnst::DataSegmentType kind = NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
+    std::size_t index = 0;
+    const bool exists = PlaceOfName(aSegment, kind, index) && GetSegment(kind, index) != nullptr;
+    return exists ? m_parts->Segment(kind, index)->SerializeDataSegment("") : nullptr;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -14,10 +14,14 @@ public:
 
     ~ImageSupportDataNITF20() override;
 
+    /// Whether files of a version are read by this class.
+    static constexpr bool IsCorrectNITFFileVersion(int aVersion) noexcept { return aVersion == c_NITFVersionNumber; }
+
 private:
     friend class ImageSupportDataNITFFactory;
 
     explicit ImageSupportDataNITF20(Request& aRequest);
+    ImageSupportDataNITF20(const ImageSupportDataNITF20& aOther);
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -14,10 +14,17 @@ public:
 
     ~ImageSupportDataNITF21() override;
 
+    /// Whether files of a version are read by this class.
+    static constexpr bool IsCorrectNITFFileVersion(int aVersion) noexcept
+    {
+        return aVersion == c_NITFVersionNumber || aVersion == NITFCnst::NSIF_VERSION_NUMBER_10;
+    }
+
 private:
     friend class ImageSupportDataNITFFactory;
 
     explicit ImageSupportDataNITF21(Request& aRequest);
+    ImageSupportDataNITF21(const ImageSupportDataNITF21& aOther);
 };
 
 }  // namespace ORMO::SensorModel::CSM

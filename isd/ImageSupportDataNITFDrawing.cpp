@@ -27,6 +27,18 @@ void Warn(const NITFFieldSegment& aSegment, const char* aField, const std::strin
     aFindings.PlaceAt(mark, aSegment.Inside().layout->Owner(), info->GetSegmentIndex());
 }
 
+bool TellPlace(const NITFFieldSegment& aSegment, ImageSupportDataNITF::CCSInformation& aInformation)
+{
+    ImageSupportDataNITF::CCSInformation found;
+    found.displayLevel = aSegment.GetDataSegmentDisplayLevel();
+    found.attachmentLevel = aSegment.GetDataSegmentAttachmentLevel();
+    if (!aSegment.GetCommonCoordinateSys(found.row, found.column, found.ccsRow, found.ccsColumn)) {
+        return false;
+    }
+    aInformation = found;
+    return true;
+}
+
 }  // namespace
 
 void Detail::PlaceDrawnSegments(ImageSupportDataNITF::Parts& aParts, FindingList& aFindings)
@@ -68,26 +80,25 @@ void Detail::PlaceDrawnSegments(ImageSupportDataNITF::Parts& aParts, FindingList
     }
 }
 
-const NITF21GraphicSubheader* ImageSupportDataNITF::GetGraphicSubheader(std::size_t aIndex) const noexcept
-{
-    return static_cast<const NITF21GraphicSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC, aIndex));
-}
-
-const NITF20SymbolSubheader* ImageSupportDataNITF::GetSymbolSubheader(std::size_t aIndex) const noexcept
-{
-    return static_cast<const NITF20SymbolSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_SYMBOL, aIndex));
-}
-
-const NITF20LabelSubheader* ImageSupportDataNITF::GetLabelSubheader(std::size_t aIndex) const noexcept
-{
-    return static_cast<const NITF20LabelSubheader*>(Segment(NITFCnst::DATA_SEGMENT_TYPE_LABEL, aIndex));
-}
-
 bool ImageSupportDataNITF::HasGraphicalData() const noexcept
 {
     return m_parts->Count(NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC) + m_parts->Count(NITFCnst::DATA_SEGMENT_TYPE_SYMBOL) +
                m_parts->Count(NITFCnst::DATA_SEGMENT_TYPE_LABEL) !=
            0;
+}
+
+bool ImageSupportDataNITF::GetImageSegmentCCSInformation(CCSInformation& aInformation, std::size_t aIndex) const
+{
+    const NITFFieldSegment* const segment = GetImageSubheader(aIndex);
+    return segment != nullptr && TellPlace(*segment, aInformation);
+}
+
+bool ImageSupportDataNITF::GetVersionSpecificDataSegmentCCSInformation(NITFCnst::DataSegmentType aKind,
+                                                                       CCSInformation& aInformation,
+                                                                       std::size_t aIndex) const
+{
+    const NITFFieldSegment* const segment = GetVersionSpecificDataSegment(aKind, aIndex);
+    return segment != nullptr && TellPlace(*segment, aInformation);
 }
 
 std::vector<const NITFDrawnSegment*> ImageSupportDataNITF::GetDrawnSegments() const

@@ -1,6 +1,6 @@
 #include "isd/ImageSupportDataNITFFactory.h"
 
-#include "foundation/CSMException.h"
+#include "foundation/CSMExceptions.h"
 #include "foundation/detail/LastMessages.h"
 #include "isd/ImageSupportDataNITF20.h"
 #include "isd/ImageSupportDataNITF21.h"
@@ -11,7 +11,9 @@
 #include "raster/GDALNITFFileReader.h"
 
 #include <memory>
+#include <new>
 #include <string>
+#include <typeinfo>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -108,19 +110,16 @@ std::unique_ptr<ImageSupportDataNITF> ImageSupportDataNITFFactory::Construct(Ima
         aRequest.findings.Add(aRequest.NotIdentified(aText));
         return nullptr;
     };
-    switch (aRequest.version) {
-        case NITFCnst::NITF_VERSION_NUMBER_20:
-            return std::unique_ptr<ImageSupportDataNITF>(new ImageSupportDataNITF20(aRequest));
-        case NITFCnst::NITF_VERSION_NUMBER_21:
-        case NITFCnst::NSIF_VERSION_NUMBER_10:
-            // NSIF 1.0 is NITF 2.1 under another name.
-            return std::unique_ptr<ImageSupportDataNITF>(new ImageSupportDataNITF21(aRequest));
-        case NITFCnst::NITF_VERSION_NUMBER_11:
-            return refuse("ERROR: NITF Version 1.1 is not supported.");
-        default:
-            return refuse(
-                "ERROR: Unknown/invalid NITF file version or the input file is not a NITF-formatted image file.");
+    if (ImageSupportDataNITF20::IsCorrectNITFFileVersion(aRequest.version)) {
+        return std::unique_ptr<ImageSupportDataNITF>(new ImageSupportDataNITF20(aRequest));
     }
+    if (ImageSupportDataNITF21::IsCorrectNITFFileVersion(aRequest.version)) {
+        return std::unique_ptr<ImageSupportDataNITF>(new ImageSupportDataNITF21(aRequest));
+    }
+    return refuse(
+        aRequest.version == NITFCnst::NITF_VERSION_NUMBER_11
+            ? "ERROR: NITF Version 1.1 is not supported."
+            : "ERROR: Unknown/invalid NITF file version or the input file is not a NITF-formatted image file.");
 }
 
 bool ImageSupportDataNITFFactory::Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool aFlag,
@@ -149,6 +148,32 @@ bool ImageSupportDataNITFFactory::Create(const WrapperCSMISD* aIsd, ImageSupport
     request.specificOnly = aFlag || NITFCnst::CREATE_SPECIFIC_TRE_ONLY;
     request.imageSegment = aImageSegment;
     return Create(request, aOut);
+}
+
+bool ImageSupportDataNITFFactory::Clone(const ImageSupportDataNITF* aIsd, ImageSupportDataNITF** aOut)
+{
+    Messages().Clear();
+    if (aOut != nullptr) {
+        *aOut = nullptr;
+    }
+    if (aIsd == nullptr || aOut == nullptr) {
+        Messages().SetError(INVALID_ARGUMENT);
+        return false;
+    }
+    try {
+        if (typeid(*aIsd) == typeid(ImageSupportDataNITF20)) {
+            *aOut = new ImageSupportDataNITF20(static_cast<const ImageSupportDataNITF20&>(*aIsd));
+        } else if (typeid(*aIsd) == typeid(ImageSupportDataNITF21)) {
+            *aOut = new ImageSupportDataNITF21(static_cast<const ImageSupportDataNITF21&>(*aIsd));
+        } else {
+            Messages().SetError("ERROR: Only the library that made the image support data can copy them.");
+        }
+    } catch (const std::bad_alloc&) {
+        Messages().SetError("ERROR: System out of memory.");
+    } catch (const RequestedOperationFailedException& exception) {
+        Messages().SetError(exception.GetAdditionalMessage());
+    }
+    return *aOut != nullptr;
 }
 
 void ImageSupportDataNITFFactory::Destroy(ImageSupportDataNITF** aIsd)

@@ -29,6 +29,11 @@ public:
     /// a file header whose version is not that of the class. Raises as the form for a file does.
     static bool Create(const WrapperCSMISD* aIsd, ImageSupportDataNITF** aOut, bool aFlag, int aImageSegment);
 
+    /// A deep copy of an ISD, which owns all but the open file and outlives what it was copied from. False, with a text
+    /// in GetErrorMessage and nothing in `*aOut`, for a missing argument, for an ISD that a companion library made, and
+    /// when memory is short.
+    static bool Clone(const ImageSupportDataNITF* aIsd, ImageSupportDataNITF** aOut);
+
     /// Releases an ISD and nulls the pointer. Null is ignored.
     static void Destroy(ImageSupportDataNITF** aIsd);
 
@@ -37,7 +42,7 @@ public:
 
     /// What this thread's last call of Create found wrong with a file that it refused; empty when there was nothing.
     static const std::vector<Finding>& GetFindings() noexcept;
-    /// Texts of this thread's last call of Create or Destroy, null when there is nothing to say.
+    /// Texts of this thread's last call of Create, Clone or Destroy, null when there is nothing to say.
     static const char* GetErrorMessage() noexcept;
     static const char* GetWarningMessage() noexcept;
 

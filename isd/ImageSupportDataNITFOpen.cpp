@@ -3,6 +3,7 @@
 #include "fields/MessageText.h"
 #include "foundation/CSMExceptions.h"
 #include "foundation/detail/Ascii.h"
+#include "foundation/detail/HandOut.h"
 #include "isd/detail/IsdParts.h"
 #include "isd/detail/WrappedIsd.h"
 #include "raster/GDALNITFFileReader.h"
@@ -67,6 +68,7 @@ private:
     void CheckLengths();
     void ReadSegments();
     void ReadSegment(const Info& aInfo, std::unique_ptr<NITFFieldSegment>& aSegment);
+    void NoteOverflow(const NITFFieldSegment& aSegment);
     bool IsWanted(const Info& aInfo) const;
     bool IsDrawn(NITFCnst::DataSegmentType aKind) const;
     void DropOthers();
@@ -79,7 +81,7 @@ private:
     // The part of the file that was read last: small segments stand close together.
     std::string m_window;
     std::uint64_t m_windowStart = 0;
-    std::set<std::uint64_t> m_overflowOfDrawn;
+    std::set<std::uint64_t> m_overflow;  ///< the numbers, from 1, of the DESs that what was read names
 };
 
 void FileReader::ReadHeader()
@@ -181,9 +183,9 @@ bool FileReader::IsWanted(const Info& aInfo) const
     if (!m_request.imageSegmentsOnly || IsDrawn(aInfo.GetDataSegmentType())) {
         return true;
     }
-    // What did not fit into an image or a graphic is its own all the same.
+    // What did not fit into the file header, an image or a graphic is its own all the same.
     return aInfo.GetDataSegmentType() == NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION &&
-           m_overflowOfDrawn.count(static_cast<std::uint64_t>(aInfo.GetSegmentIndex()) + 1) != 0;
+           m_overflow.count(static_cast<std::uint64_t>(aInfo.GetSegmentIndex()) + 1) != 0;
 }
 
 /// What lies over images belongs to them, whoever asks for images only.
@@ -197,6 +199,7 @@ void FileReader::ReadSegments()
 {
     const auto& infos = m_parts.infos.InFileOrder();
     m_parts.segments.resize(infos.size());
+    NoteOverflow(*m_parts.header);
     for (std::size_t i = 0; i != infos.size(); ++i) {
         if (!IsWanted(*infos[i])) {
             continue;
@@ -206,12 +209,16 @@ void FileReader::ReadSegments()
         if (m_findings.Errors() != errors && !m_request.salvage) {
             Refuse(m_findings);
         }
-        const NITFFieldSegment* const segment = m_parts.segments[i].get();
-        if (m_request.imageSegmentsOnly && segment != nullptr) {
-            for (const Detail::ExtensionArea& area : segment->Inside().layout->kind->areas) {
-                m_overflowOfDrawn.insert(segment->Inside().Number(area.overflow));
-            }
+        if (m_parts.segments[i] != nullptr) {
+            NoteOverflow(*m_parts.segments[i]);
         }
+    }
+}
+
+void FileReader::NoteOverflow(const NITFFieldSegment& aSegment)
+{
+    for (const Detail::ExtensionArea& area : aSegment.Inside().layout->kind->areas) {
+        m_overflow.insert(aSegment.Inside().Number(area.overflow));
     }
 }
 
@@ -289,13 +296,36 @@ void FileReader::DropOthers()
     }
 }
 
+std::unique_ptr<Parts> ReadParts(Request& aRequest)
+{
+    if (aRequest.source == nullptr) {
+        aRequest.findings.Add(Detail::MakeFinding("ERROR: Failed to open the NITF file: " + aRequest.reason + "."));
+        Refuse(aRequest.findings);
+    }
+    auto parts = std::make_unique<Parts>();
+    parts->source = aRequest.source;
+    parts->specificOnly = aRequest.specificOnly;
+    parts->salvage = aRequest.salvage;
+    FileReader(aRequest, *parts).Read();
+    return parts;
+}
+
 }  // namespace
 
 Request Request::Open(const char* aPath)
 {
+    std::string reason;
+    const std::string path(Detail::Trimmed(aPath));
+    Request request = OfSource(Detail::ByteSource::Open(path, reason), path);
+    request.reason = reason.empty() ? request.reason : reason;
+    return request;
+}
+
+Request Request::OfSource(std::shared_ptr<const Detail::ByteSource> aSource, std::string aPath)
+{
     Request request;
-    request.path = Detail::Trimmed(aPath);
-    request.source = Detail::ByteSource::Open(request.path, request.reason);
+    request.path = std::move(aPath);
+    request.source = std::move(aSource);
     if (request.source != nullptr && !request.source->ReadUpTo(0, Detail::FIRST_READ, request.first)) {
         request.reason = "The file cannot be read";
         request.source.reset();
@@ -309,16 +339,10 @@ Request Request::Open(const char* aPath)
 
 Request Request::OfMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName)
 {
-    Request request;
-    request.path = Detail::Trimmed(aName);
-    request.path = request.path.empty() ? "memory" : request.path;
+    const std::string name(Detail::Trimmed(aName));
+    const std::string path = name.empty() ? "memory" : name;
     const std::string_view bytes(static_cast<const char*>(aBytes), aBytes == nullptr ? 0 : aLength);
-    request.source = Detail::ByteSource::OfMemory(bytes, aCopy, request.path);
-    request.first = bytes.substr(0, Detail::FIRST_READ);
-    int version = NITFCnst::NITF_VERSION_NUMBER_UNKNOWN;
-    GDALNITFFileReader::IsNITFFile(static_cast<const unsigned char*>(aBytes), bytes.size(), version);
-    request.version = static_cast<NITFCnst::Version>(version);
-    return request;
+    return OfSource(Detail::ByteSource::OfMemory(bytes, aCopy, path), path);
 }
 
 Request Request::OfWrapped(const WrapperCSMIsdNITF& aIsd)
@@ -353,21 +377,57 @@ ImageSupportDataNITF::ImageSupportDataNITF(Request& aRequest)
                        aRequest.version == NITFCnst::NITF_VERSION_NUMBER_20 ? NITFCnst::NITF_VERSION_200
                                                                             : NITFCnst::NITF_VERSION_210,
                        aRequest.source != nullptr),
-      m_parts(std::make_unique<Parts>())
+      m_parts(ReadParts(aRequest))
 {
-    m_parts->source = aRequest.source;
-    if (m_parts->source == nullptr) {
-        aRequest.findings.Add(Detail::MakeFinding("ERROR: Failed to open the NITF file: " + aRequest.reason + "."));
-        Refuse(aRequest.findings);
+    TakeFindings(aRequest);
+    if (aRequest.imageSegment >= 0 && aRequest.imageSegment < GetNumOfImageSegments()) {
+        m_currentImageSegment = aRequest.imageSegment;
     }
-    FileReader(aRequest, *m_parts).Read();
+}
+
+void ImageSupportDataNITF::TakeFindings(Request& aRequest)
+{
     m_parts->findings = std::move(aRequest.findings);
-    SetHighestSecurityClassificationMarking();
-    if (aRequest.imageSegment >= 0) {
-        SetCurrentImageSegment(aRequest.imageSegment);
-    }
     m_errorMessage = m_parts->findings.Blocks(true);
     m_warningMessage = m_parts->findings.Blocks(false);
+    SetHighestSecurityClassificationMarking();
+}
+
+bool ImageSupportDataNITF::Open(bool aImageSegmentsOnly, char** aErrors, char** aWarnings)
+{
+    Request request = m_parts->source->IsMemory() ? Request::OfSource(m_parts->source, m_fileName)
+                                                  : Request::Open(m_fileName.c_str());
+    request.imageSegmentsOnly = aImageSegmentsOnly;
+    request.specificOnly = m_parts->specificOnly;
+    request.salvage = m_parts->salvage;
+    bool isOpen = false;
+    if (m_parts->isOfWrapped) {
+        request.findings.Add(Detail::MakeFinding("ERROR: There is no file to open: the object was made without one."));
+    } else if (request.source != nullptr && Detail::LayoutVersion(request.version) != m_parts->Version()) {
+        request.findings.Add(request.NotIdentified("ERROR: The file is no longer of the version of this object."));
+    } else {
+        try {
+            m_parts = ReadParts(request);
+            isOpen = true;
+        } catch (const CSMException&) {
+            isOpen = false;  // what was wrong stands among the findings
+        }
+    }
+    const std::string errors = request.findings.Blocks(true);
+    const std::string warnings = request.findings.Blocks(false);
+    if (isOpen) {
+        m_keptText.clear();
+        m_validationSummaryReport.clear();
+        m_rigorouslyValidated = false;
+        m_markingsBuilt = false;
+        m_currentImageSegment =
+            m_currentImageSegment < GetNumOfImageSegments() ? m_currentImageSegment : NO_IMAGE_SEGMENT;
+        TakeFindings(request);
+    }
+    SetMessages(errors.c_str(), warnings.c_str());
+    Detail::HandOutOrThrow(errors, aErrors);
+    Detail::HandOutOrThrow(warnings, aWarnings);
+    return isOpen;
 }
 
 ImageSupportDataNITF::~ImageSupportDataNITF() = default;

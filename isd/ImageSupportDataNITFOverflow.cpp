@@ -111,7 +111,9 @@ void CheckNumbers(const Parts& aParts, NITFCnst::DataSegmentType aKind, std::siz
 std::string SegmentName(NITFCnst::DataSegmentType aKind, std::size_t aIndex)
 {
     const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);
-    return aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER ? name : name + ' ' + std::to_string(aIndex);
+    // A negative number that became an index is shown as what it was.
+    const auto index = static_cast<std::int64_t>(aIndex);
+    return aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER ? name : name + ' ' + std::to_string(index);
 }
 
 void PlaceOverflow(Parts& aParts, FindingList& aFindings)

@@ -4,6 +4,7 @@
 #include "segments/NITFFieldSegment.h"
 #include "segments/RawNITFMetadataStdDataSegment.h"
 #include "segments/detail/SegmentLayout.h"
+#include "tre/detail/RawFields.h"
 
 #include <memory>
 
@@ -35,7 +36,6 @@ const RawNITFMetadataStdDataSegment* NITFFieldSegment::GetAllMetadata() const
 {
     return m_parts->metadata
         .Get([this] {
-            const Detail::FieldStore& fields = m_parts->record.Store();
             const char* const owner = m_parts->layout->Owner();
             RawNITFMetadataStdDataSegment::Contents contents;
             contents.typeCode = static_cast<NITFCnst::NITFMetadataType>(GetDataSegmentType());
@@ -44,18 +44,7 @@ const RawNITFMetadataStdDataSegment* NITFFieldSegment::GetAllMetadata() const
             contents.classification = GetClassification();
             contents.rawData = m_parts->raw;
             contents.rawDataDescription = std::string(owner) + " as it stands in the file";
-            for (const Detail::FieldEntry& entry : fields.Entries()) {
-                const Detail::FieldRow& row = fields.Row(entry);
-                RawNITFMetadataField field;
-                field.tag = fields.Name(entry);
-                field.longName = row.label;
-                field.type = NITFCnst::GetFieldTypeForDisplay(static_cast<NITFCnst::FieldType>(row.need));
-                field.declaredSize = static_cast<int>(row.HasFixedWidth() ? row.width : entry.length);
-                field.editable = fields.Table().IsEditable(entry.row);
-                field.binary = row.IsBinary();
-                field.description = row.label;
-                contents.fields.AddPresent(field, fields.Value(entry));
-            }
+            contents.fields = Detail::RawFieldsOf(m_parts->record);
             auto metadata = std::make_unique<RawNITFMetadataStdDataSegment>(std::move(contents));
             const auto& overflow = GetOverflowTREStore().InOrder();
             metadata->SetTRERawNITFMetadata(QueriedTREs(), {overflow.begin(), overflow.end()});

@@ -93,6 +93,20 @@ bool NITFStdDataSegmentInfo::operator==(const NITFStdDataSegmentInfo& aOther) co
     return all(*this) == all(aOther);
 }
 
+NITFStdDataSegmentInfos::NITFStdDataSegmentInfos(const NITFStdDataSegmentInfos& aOther) : m_end(aOther.m_end)
+{
+    for (const NITFStdDataSegmentInfo* const other : aOther.m_inFileOrder) {
+        auto info = std::make_unique<NITFStdDataSegmentInfo>(*other);
+        m_inFileOrder.push_back(info.get());
+        m_byKind[NITFStdDataSegment::GetDataSegmentName(info->GetDataSegmentType())].push_back(std::move(info));
+    }
+}
+
+NITFStdDataSegmentInfos& NITFStdDataSegmentInfos::operator=(const NITFStdDataSegmentInfos& aOther)
+{
+    return *this = NITFStdDataSegmentInfos(aOther);
+}
+
 bool NITFStdDataSegmentInfos::Build(NITFCnst::Version aVersion, std::uint64_t aHeaderLength, std::uint64_t aFileLength,
                                     const std::vector<NITFSegmentLengths>& aKinds, std::string& aErrors)
 {

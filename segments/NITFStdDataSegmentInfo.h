@@ -70,6 +70,13 @@ class ORMO_CSM_API NITFStdDataSegmentInfos
 public:
     using Infos = std::vector<std::unique_ptr<NITFStdDataSegmentInfo>>;
 
+    NITFStdDataSegmentInfos() = default;
+    NITFStdDataSegmentInfos(const NITFStdDataSegmentInfos& aOther);
+    NITFStdDataSegmentInfos(NITFStdDataSegmentInfos&&) = default;
+    NITFStdDataSegmentInfos& operator=(const NITFStdDataSegmentInfos& aOther);
+    NITFStdDataSegmentInfos& operator=(NITFStdDataSegmentInfos&&) = default;
+    ~NITFStdDataSegmentInfos() = default;
+
     /// `aKinds` stand in file order, `aHeaderLength` and `aFileLength` are HL and FL. On failure nothing is kept and
     /// the reason is appended to `aErrors`.
     bool Build(NITFCnst::Version aVersion, std::uint64_t aHeaderLength, std::uint64_t aFileLength,

@@ -1,6 +1,7 @@
 #include "tre/RawNITFMetadataTRE.h"
 
 #include "foundation/detail/HandOut.h"
+#include "tre/detail/RawFields.h"
 #include "tre/detail/TreParts.h"
 
 #include <string_view>
@@ -22,7 +23,10 @@ RawNITFMetadataTRE::RawNITFMetadataTRE(const TRE& aTre, int aVersionNumber, cons
     std::string data(parts.Length(), '\0');
     parts.CopyData(data.data());
     SetRawDataStream(std::move(data), "Data of TRE " + m_tag);
-    CopyFields(aTre);
+    if (parts.fields != nullptr) {
+        m_fields = Detail::RawFieldsOf(*parts.fields);
+    }
+    SetNoMetadata(m_fields.Size() == 0);
 }
 
 RawNITFMetadataTRE::RawNITFMetadataTRE(const RawNITFMetadataTRE& aOther) = default;
@@ -30,30 +34,6 @@ RawNITFMetadataTRE::RawNITFMetadataTRE(const RawNITFMetadataTRE& aOther) = defau
 RawNITFMetadataTRE& RawNITFMetadataTRE::operator=(const RawNITFMetadataTRE& aOther) = default;
 
 RawNITFMetadataTRE::~RawNITFMetadataTRE() = default;
-
-void RawNITFMetadataTRE::CopyFields(const TRE& aTre)
-{
-    const TRE::FieldInfos& infos = *aTre.GetAllTreFieldInfos();
-    std::string name;
-    const char* value = nullptr;
-    std::size_t length = 0;
-    for (std::size_t i = 0; aTre.GetFieldAt(i, name, value, length); ++i) {
-        const auto info = infos.find(name);
-        if (info == infos.end()) {
-            continue;
-        }
-        RawNITFMetadataField field;
-        field.tag = name;
-        field.longName = info->second.longName;
-        field.type = NITFCnst::GetFieldTypeForDisplay(info->second.requirement);
-        field.declaredSize = static_cast<int>(info->second.width);
-        field.editable = aTre.IsFieldEditable(name.c_str());
-        field.binary = aTre.IsBinaryField(name.c_str());
-        field.description = info->second.description;
-        m_fields.AddPresent(field, std::string_view(value, length));
-    }
-    SetNoMetadata(m_fields.Size() == 0);
-}
 
 std::size_t RawNITFMetadataTRE::GetRawDataStreamSize() const noexcept
 {

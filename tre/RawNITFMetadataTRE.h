@@ -48,8 +48,6 @@ public:
                      const std::vector<bool>** aBinaryFields) const override;
 
 private:
-    void CopyFields(const TRE& aTre);
-
     std::string m_tag;
     std::string m_type;
     std::string m_name;

@@ -2,11 +2,14 @@
 
 #include "fields/ByteSource.h"
 #include "fields/FindingList.h"
+#include "foundation/detail/Lazy.h"
 #include "isd/ImageSupportDataNITF.h"
 #include "isd/detail/TsmViews.h"
 #include "segments/detail/SegmentKind.h"
 
+#include <array>
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <map>
@@ -44,14 +47,38 @@ struct ImageSupportDataNITF::Request
 
     /// Opens the file once and reads its first bytes; the version is that which they tell.
     static Request Open(const char* aPath);
+    static Request OfSource(std::shared_ptr<const Detail::ByteSource> aSource, std::string aPath);
     static Request OfMemory(const void* aBytes, std::size_t aLength, bool aCopy, const char* aName);
     /// The wrapper must live until the ISD is made.
     static Request OfWrapped(const WrapperCSMIsdNITF& aIsd);
 };
 
+namespace Detail {
+
+/// A stdio stream of the file.
+struct IsdStream
+{
+    IsdStream(std::FILE* aFile, const std::atomic<bool>& aIsClosed) noexcept : file(aFile), isClosed(aIsClosed) {}
+    IsdStream(const IsdStream&) = delete;
+    IsdStream& operator=(const IsdStream&) = delete;
+    ~IsdStream()
+    {
+        if (isClosed) {
+            std::fclose(file);
+        }
+    }
+
+    std::FILE* const file;
+    const std::atomic<bool>& isClosed;  ///< with this object; else whoever has the stream closes it
+};
+
+}  // namespace Detail
+
 /// What was read of a file: its header and one vector of segments in file order.
 struct ImageSupportDataNITF::Parts
 {
+    static constexpr std::size_t KIND_COUNT = 9;
+
     std::shared_ptr<const Detail::ByteSource> source;
     std::string versionText;
     std::unique_ptr<NITFFileHeader> header;
@@ -60,24 +87,39 @@ struct ImageSupportDataNITF::Parts
     std::vector<std::unique_ptr<NITFFieldSegment>> segments;
     Detail::FindingList findings;
     Detail::FindingList validation;
-    std::FILE* stream = nullptr;
+    std::atomic<bool> areStreamsClosed{true};
+    Detail::Lazy<Detail::IsdStream> stream;
+    Detail::Lazy<Detail::IsdStream> pixelStream;
     bool isOfWrapped = false;  ///< made from a CSM API ISD
-    std::string summary;       ///< the last that was handed out
-    std::mutex propertyLock;   ///< guards what follows
+    bool specificOnly = false;
+    bool salvage = false;
+    std::string summary;      ///< the last that was handed out
+    std::mutex propertyLock;  ///< guards what follows
     /// Answers to property keys by image; empty when there is none.
     std::map<std::pair<const Detail::PropertyRow*, std::size_t>, std::string> properties;
     Detail::TsmViews tsm;  ///< the file as ISDs of the CSM API, and the sensor models that take it
+    Detail::Lazy<std::vector<std::string>> imageIdentifiers;
+    /// The raw metadata of the segments of each kind, by the number of the kind.
+    std::array<Detail::Lazy<MetadataList>, KIND_COUNT> metadata;
 
     Parts() = default;
-    Parts(const Parts&) = delete;
     Parts& operator=(const Parts&) = delete;
-    ~Parts();
+    /// All that was read, once more; the file itself is shared, and what is made when asked for is left out.
+    std::unique_ptr<Parts> Copy() const;
+    /// Whether all segments are equal, in their fields, TREs and data.
+    bool operator==(const Parts& aOther) const;
 
     NITFCnst::Version Version() const noexcept { return header->GetVersion(); }
     /// The segment of a kind; null when there is none or it was not read.
     NITFFieldSegment* Segment(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const noexcept;
     NITFDESSubheader* Des(std::size_t aIndex) const noexcept;
+    NITFImageSubheader* Image(std::size_t aIndex) const noexcept;
+    /// One for each image; made of the name of the file when first asked for.
+    const std::vector<std::string>& ImageIdentifiers(const std::string& aFile) const;
     std::size_t Count(NITFCnst::DataSegmentType aKind) const noexcept;
+
+private:
+    Parts(const Parts& aOther);
 };
 
 namespace Detail {

@@ -35,7 +35,7 @@ bool SegmentData::ReadFront(std::uint64_t aMost, std::string& aOut) const
 bool SegmentData::Equals(const SegmentData& aOther) const
 {
     if (!IsAvailable() || !aOther.IsAvailable() || m_size != aOther.m_size) {
-        return false;
+        return !IsAvailable() && !aOther.IsAvailable() && m_size == aOther.m_size && m_start == aOther.m_start;
     }
     std::uint64_t done = 0;
     std::string theirs;

@@ -31,13 +31,14 @@ public:
     /// Why the data cannot be had; empty when they can.
     std::string Fault() const;
 
-    /// Whether both look at the same bytes of the same source.
+    /// Whether both look at the same bytes of the same file.
     bool IsSamePlace(const SegmentData& aOther) const noexcept
     {
-        return m_source != nullptr && m_source == aOther.m_source && m_start == aOther.m_start &&
-               m_size == aOther.m_size;
+        return m_source != nullptr && aOther.m_source != nullptr && m_start == aOther.m_start &&
+               m_size == aOther.m_size && m_source->IsSameFile(*aOther.m_source);
     }
-    /// Whether both have the same bytes, compared piece by piece. Data that cannot be had equal nothing.
+    /// Whether both have the same bytes, compared piece by piece. Data that cannot be had equal such data of the same
+    /// place.
     [[nodiscard]] bool Equals(const SegmentData& aOther) const;
 
     /// All of the data, read once and kept; null, with nothing kept, when they cannot be had.

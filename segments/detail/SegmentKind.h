@@ -87,6 +87,15 @@ constexpr const SegmentKind* FindKind(NITFCnst::DataSegmentType aKind, NITFCnst:
     return nullptr;
 }
 
+/// Whether only the one version has segments of the kind: graphics, or symbols and labels.
+constexpr bool IsVersionSpecific(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept
+{
+    const NITFCnst::Version other = LayoutVersion(aVersion) == NITFCnst::NITF_VERSION_NUMBER_20
+                                        ? NITFCnst::NITF_VERSION_NUMBER_21
+                                        : NITFCnst::NITF_VERSION_NUMBER_20;
+    return FindKind(aKind, aVersion) != nullptr && FindKind(aKind, other) == nullptr;
+}
+
 /// The row of a mark ("IM"); null when the version has no such segments.
 constexpr const SegmentKind* FindKind(std::string_view aMark, NITFCnst::Version aVersion) noexcept
 {

@@ -93,6 +93,11 @@ namespace Detail {
 /// The header of a kind and version; raises as its constructor does. Null for a kind that the version does not have.
 std::unique_ptr<NITFFieldSegment> MakeSegment(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion,
                                               NITFFieldSegment::Input& aInput);
+/// A copy of a header of any kind, with TREs of its own; raises RequestedOperationFailedException when a special
+/// provider refuses to copy a TRE.
+std::unique_ptr<NITFFieldSegment> CopySegment(const NITFFieldSegment& aSegment);
+/// Whether two headers are of one kind and version, with equal fields, TREs and data.
+bool AreEqual(const NITFFieldSegment& aLeft, const NITFFieldSegment& aRight);
 /// The layout of a kind in a version; null when the version does not have the kind.
 const NITFFieldSegment::Layout* LayoutOf(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept;
 /// What the rows say of the values of all TREs of a store.

@@ -21,22 +21,31 @@ namespace {
 
 using Input = NITFFieldSegment::Input;
 
-/// A version class of a kind of segment: its layout, which says which, and how to make one.
+/// A version class of a kind of segment: its layout, which says which, and how to make, copy and compare one.
 struct SegmentClass
 {
     const NITFFieldSegment::Layout* layout;
     std::unique_ptr<NITFFieldSegment> (*make)(Input& aInput);
+    std::unique_ptr<NITFFieldSegment> (*copy)(const NITFFieldSegment& aSegment);
+    bool (*equal)(const NITFFieldSegment& aLeft, const NITFFieldSegment& aRight);
 };
 
 template<typename Class>
 SegmentClass Of() noexcept
 {
-    return {&Class::GetLayout(), [](Input& aInput) -> std::unique_ptr<NITFFieldSegment> {
+    return {&Class::GetLayout(),
+            [](Input& aInput) -> std::unique_ptr<NITFFieldSegment> {
                 if constexpr (std::is_constructible_v<Class, Input&>) {
                     return std::make_unique<Class>(aInput);
                 } else {
                     return std::make_unique<Class>(std::move(aInput));
                 }
+            },
+            [](const NITFFieldSegment& aSegment) -> std::unique_ptr<NITFFieldSegment> {
+                return std::make_unique<Class>(static_cast<const Class&>(aSegment));
+            },
+            [](const NITFFieldSegment& aLeft, const NITFFieldSegment& aRight) {
+                return static_cast<const Class&>(aLeft) == static_cast<const Class&>(aRight);
             }};
 }
 
@@ -64,6 +73,26 @@ std::unique_ptr<NITFFieldSegment> MakeSegment(NITFCnst::DataSegmentType aKind, N
 {
     const SegmentClass* const one = FindClass(aKind, aVersion);
     return one == nullptr ? nullptr : one->make(aInput);
+}
+
+namespace {
+
+const SegmentClass& ClassOf(const NITFFieldSegment& aSegment) noexcept
+{
+    const SegmentKind& kind = *aSegment.Inside().layout->kind;
+    return *FindClass(kind.kind, kind.version);
+}
+
+}  // namespace
+
+std::unique_ptr<NITFFieldSegment> CopySegment(const NITFFieldSegment& aSegment)
+{
+    return ClassOf(aSegment).copy(aSegment);
+}
+
+bool AreEqual(const NITFFieldSegment& aLeft, const NITFFieldSegment& aRight)
+{
+    return &ClassOf(aLeft) == &ClassOf(aRight) && ClassOf(aLeft).equal(aLeft, aRight);
 }
 
 const NITFFieldSegment::Layout* LayoutOf(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept

@@ -325,10 +325,7 @@ namespace {
 /// The mark of a kind that only one version has; empty for any other.
 const char* VersionSpecificType(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept
 {
-    const bool specific = aKind == NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC || aKind == NITFCnst::DATA_SEGMENT_TYPE_SYMBOL ||
-                          aKind == NITFCnst::DATA_SEGMENT_TYPE_LABEL;
-    const Detail::SegmentKind* const kind = specific ? Detail::FindKind(aKind, aVersion) : nullptr;
-    return kind == nullptr ? "" : kind->mark;
+    return Detail::IsVersionSpecific(aKind, aVersion) ? Detail::FindKind(aKind, aVersion)->mark : "";
 }
 
 }  // namespace

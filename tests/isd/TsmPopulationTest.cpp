@@ -307,13 +307,13 @@ TYPED_TEST(TsmPopulationTest, FileAndOwnIsdsAreFilledToo)
     EXPECT_EQ(own.GetImageSegment(), 1);
 }
 
-TYPED_TEST(TsmPopulationTest, WithoutTheOtherSegmentsThereAreNoDessAndNoOverflow)
+TYPED_TEST(TsmPopulationTest, WithoutTheOtherSegmentsThereAreNoDessButAllTresOfTheHeader)
 {
     const auto isd = Open(this->m_file.Path(), false);
     TypeParam filled;
     ASSERT_TRUE(Nitf(isd).SetTSMISD(-1, &filled));
     EXPECT_EQ(filled.numDESs, 0);
-    EXPECT_THAT(Tags(filled.fileTREs, filled.numTREs), ElementsAre("FILEUD", "FILEXH"));
+    EXPECT_THAT(Tags(filled.fileTREs, filled.numTREs), ElementsAre("FILEUD", "FILEXH", "FILEOV"));
     EXPECT_EQ(filled.numImages, 2);
 }
 
