@@ -1,5 +1,6 @@
 // What a file answers by property key.
 
+#include "fields/MessageText.h"
 #include "foundation/detail/Ascii.h"
 #include "isd/detail/IsdParts.h"
 #include "isd/detail/PropertyTable.h"
@@ -50,8 +51,13 @@ bool ImageSupportDataNITF::FindOrmoMetadata(const char* aKey, std::size_t aImage
 const char* ImageSupportDataNITF::GetOrmoMetadata(const char* aKey, std::size_t aImage) const noexcept
 {
     try {
+        ClearMessages();
         const PropertyRow* const row = Detail::FindPropertyRow(Detail::ViewOf(aKey));
         if (row == nullptr) {
+            RefuseQuery("ERROR: There is no property " + Detail::Quoted(Detail::ViewOf(aKey)) + '.');
+            return nullptr;
+        }
+        if (row->IsOfImage() && GetImageSubheader(aImage) == nullptr) {
             return nullptr;
         }
         const std::scoped_lock lock(m_parts->propertyLock);
@@ -64,6 +70,7 @@ const char* ImageSupportDataNITF::GetOrmoMetadata(const char* aKey, std::size_t 
                 value.clear();
             }
             place = m_parts->properties.emplace(key, std::move(value)).first;
+            ClearMessages();  // what was asked on the way may not have been there
         }
         return place->second.empty() ? nullptr : place->second.c_str();
     } catch (const std::exception&) {

@@ -88,8 +88,8 @@ bool SetImages(const ImageSupportDataNITF& aFrom, NitfISD& aTo, int aImageSegmen
     Records<::image> images(aImageSegment < 0 ? all : 1);
     for (std::size_t i = 0; i != images.count; ++i) {
         // Of all images, one that could not be read keeps its place; alone it is none.
-        if (!FillImage(aFrom.GetImageSubheader(first + i), images.items[i]) && aImageSegment >= 0) {
-            return false;
+        if (!FillImage(aFrom.Inside().Image(first + i), images.items[i]) && aImageSegment >= 0) {
+            return aFrom.GetImageSubheader(first) != nullptr;  // says why
         }
     }
     images.MoveTo(aTo.images, aTo.numImages);
@@ -104,7 +104,7 @@ bool SetDESs(const ImageSupportDataNITF& aFrom, NitfISD& aTo)
     const NITFStdDataSegmentInfos::Infos* const infos =
         aFrom.GetSegmentInfos().Get(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION);
     for (std::size_t i = 0; infos != nullptr && i != infos->size(); ++i) {
-        if (const NITFDESSubheader* const des = aFrom.GetDataExtensionSegment(i)) {
+        if (const NITFDESSubheader* const des = aFrom.Inside().Des(i)) {
             found.push_back(des);
         }
     }
@@ -199,7 +199,9 @@ void ImageSupportDataNITF::ClearTSMISDData() noexcept
 
 bool ImageSupportDataNITF::SetTSMISD(int aImageSegment, tsm_ISD* aTsmISD) const
 {
-    if (aTsmISD == nullptr || aImageSegment >= GetNumOfImageSegments()) {
+    ClearMessages();
+    if (aTsmISD == nullptr || (aImageSegment >= GetNumOfImageSegments() &&
+                               GetImageSubheader(static_cast<std::size_t>(aImageSegment)) == nullptr)) {
         return false;
     }
     try {
@@ -249,7 +251,7 @@ bool ImageSupportDataNITF::PopulateTSMISDDESs(tsm_ISD* aTsmISD) const
 bool ImageSupportDataNITF::PopulateCSMImageObject(::image& aImage, int aImageSegment) const
 {
     try {
-        return aImageSegment >= 0 && FillImage(GetImageSubheader(static_cast<std::size_t>(aImageSegment)), aImage);
+        return FillImage(GetImageSubheader(static_cast<std::size_t>(aImageSegment)), aImage);
     } catch (const std::exception&) {
         // Memory is short.
         return false;

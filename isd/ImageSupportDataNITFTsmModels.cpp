@@ -1,5 +1,6 @@
 // Sensor models of registered plug-ins for the images of the file.
 
+#include "fields/MessageText.h"
 #include "isd/ImageSupportDataNITF.h"
 #include "isd/OrmoCSMPlugin.h"
 #include "isd/detail/CsmCall.h"
@@ -77,53 +78,6 @@ std::vector<const char*> TextsOf(const std::vector<std::string>& aTexts)
     return texts;
 }
 
-struct ImagePoint
-{
-    double line;
-    double sample;
-};
-
-/// Of the coordinate system that the model has, in metres.
-struct GroundPoint
-{
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-};
-
-/// Where a point of the image lies at height 0.
-bool FindGround(TSMSensorModel& aModel, const ImagePoint& aPoint, GroundPoint& aGround)
-{
-    double precision = 0.0;
-    return Detail::AskCsm([&] {
-        return aModel.imageToGround(aPoint.line, aPoint.sample, 0.0, aGround.x, aGround.y, aGround.z, precision);
-    });
-}
-
-/// Whether the model gives the ray through a point of the image, along which heights are measured.
-bool HasLocus(TSMSensorModel& aModel, const ImagePoint& aPoint, const GroundPoint& aGround)
-{
-    double locus[6] = {};
-    double precision = 0.0;
-    return Detail::AskCsm([&] {
-        return aModel.imageToProximateImagingLocus(aPoint.line, aPoint.sample, aGround.x, aGround.y, aGround.z, locus,
-                                                   precision);
-    });
-}
-
-/// Whether the model tells how far what it gives can be relied on.
-bool HasCovariance(TSMSensorModel& aModel, const ImagePoint& aPoint)
-{
-    const double ofImage[4] = {1.0, 0.0, 0.0, 1.0};
-    double ofGround[9] = {};
-    double precision = 0.0;
-    GroundPoint ground;
-    return Detail::AskCsm([&] {
-        return aModel.imageToGround(aPoint.line, aPoint.sample, ofImage, 0.0, 1.0, ground.x, ground.y, ground.z,
-                                    ofGround, precision);
-    });
-}
-
 /// The kept texts that say the same, made when there are none.
 const Detail::ModelTexts& Kept(Detail::TsmViews& aViews, Detail::ModelTexts aFound)
 {
@@ -175,14 +129,15 @@ bool ImageSupportDataNITF::GetSensorModelsOfImageSegment(const char**& aNames, c
 
 TSMSensorModel* ImageSupportDataNITF::GetTSMSensorModel(const char* aSensorModelName, std::size_t aSegment) const
 {
-    if (aSensorModelName == nullptr || GetImageSubheader(aSegment) == nullptr) {
+    if (GetImageSubheader(aSegment) == nullptr) {
         return nullptr;
     }
+    const std::string name = aSensorModelName == nullptr ? "" : aSensorModelName;
     TSMSensorModel* built = nullptr;
     try {
         ForEachModel(IsdsOfImage(*this, aSegment), [&](const TSMPlugin& aPlugin, const Detail::OfferedModel& aModel,
                                                        const tsm_ISD& aIsd) {
-            if (aModel.name != aSensorModelName) {
+            if (aModel.name != name) {
                 return false;
             }
             if (!Detail::AskCsm([&] { return aPlugin.constructSensorModelFromISD(aIsd, aModel.name, built); })) {
@@ -194,39 +149,12 @@ TSMSensorModel* ImageSupportDataNITF::GetTSMSensorModel(const char* aSensorModel
         // Memory is short.
         return nullptr;
     }
-    return built;
-}
-
-bool ImageSupportDataNITF::GetMensurationCapabilities(bool& aPosition, bool& aDistance, bool& aArea, bool& aHeight,
-                                                      bool& aUncertainty, const char* aSensorModelName, int aSegment)
-{
-    aPosition = aDistance = aArea = aHeight = aUncertainty = false;
-    const auto index = static_cast<std::size_t>(aSegment);
-    const NITFImageSubheader* const image = GetImageSubheader(index);
-    const std::unique_ptr<TSMSensorModel> model(image == nullptr ? nullptr
-                                                                 : GetTSMSensorModel(aSensorModelName, index));
-    unsigned long columns = 0;
-    unsigned long rows = 0;
-    if (model == nullptr || !image->GetImageSignificantColumnsAndRows(columns, rows)) {
-        return false;
+    ClearMessages();
+    if (built == nullptr) {
+        RefuseQuery("ERROR: No registered plug-in builds the sensor model " + Detail::Quoted(name) + " of " +
+                    Detail::SegmentName(NITFCnst::DATA_SEGMENT_TYPE_IMAGE, aSegment) + '.');
     }
-    const ImagePoint centre{static_cast<double>(rows) / 2.0, static_cast<double>(columns) / 2.0};
-    GroundPoint ground;
-    // What lies between points follows from where the points lie.
-    aPosition = aDistance = aArea = FindGround(*model, centre, ground);
-    aHeight = aPosition && HasLocus(*model, centre, ground);
-    aUncertainty = aPosition && HasCovariance(*model, centre);
-    return true;
-}
-
-bool ImageSupportDataNITF::GetMensurationCapabilities(bool& aPosition, bool& aDistance, bool& aArea, bool& aHeight,
-                                                      bool& aUncertainty, const char* aSensorModelName,
-                                                      const char* aSegmentIdentifier)
-{
-    aPosition = aDistance = aArea = aHeight = aUncertainty = false;
-    const long index = GetImageSegmentIndex(aSegmentIdentifier);
-    return index != NO_IMAGE_SEGMENT && GetMensurationCapabilities(aPosition, aDistance, aArea, aHeight, aUncertainty,
-                                                                   aSensorModelName, static_cast<int>(index));
+    return built;
 }
 
 }  // namespace ORMO::SensorModel::CSM

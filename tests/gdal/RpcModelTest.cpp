@@ -14,6 +14,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
@@ -309,6 +310,29 @@ TEST_F(RpcModelTest, ModelsOfAnImageAreListedWithTheirVersionsAndOursIsNot)
     EXPECT_EQ(opened.isd->GetTSMSensorModel("ORMO_CSM", 0), nullptr);
     EXPECT_EQ(opened.isd->GetTSMSensorModel(MODEL, 1), nullptr);
     EXPECT_EQ(opened.isd->GetTSMSensorModel(nullptr, 0), nullptr);
+}
+
+TEST_F(RpcModelTest, ModelSaysWhatCanBeMeasuredInAnImage)
+{
+    const Tests::TempFile file;
+    const Opened opened(WriteWithGdal(file));
+    ASSERT_NE(opened.isd, nullptr);
+    ImageSupportData& isd = *opened.isd;
+    bool can[5] = {};
+    const auto ask = [&](const char* aModel, auto aSegment) {
+        return isd.GetMensurationCapabilities(can[0], can[1], can[2], can[3], can[4], aModel, aSegment);
+    };
+    EXPECT_TRUE(ask(MODEL, 0));
+    EXPECT_EQ(std::count(std::begin(can), std::end(can), true), 5);
+    EXPECT_TRUE(ask(MODEL, isd.GetUniqueImageSegmentIdentifier(0)));
+    EXPECT_EQ(std::count(std::begin(can), std::end(can), true), 5);
+    EXPECT_FALSE(ask("NO_SUCH_MODEL", 0));
+    EXPECT_EQ(std::count(std::begin(can), std::end(can), true), 0);
+    EXPECT_NE(std::string(isd.GetErrorMessage()).find("NO_SUCH_MODEL"), std::string::npos);
+    EXPECT_FALSE(ask(MODEL, 1));
+    EXPECT_NE(isd.GetErrorMessage(), nullptr);
+    EXPECT_FALSE(ask(MODEL, "NITF_IM:1:elsewhere"));
+    EXPECT_NE(isd.GetErrorMessage(), nullptr);
 }
 
 }  // namespace

@@ -332,6 +332,7 @@ TEST(ForwardersTest, OfImagesNameTheFieldTreOrBandThatIsNotThere)
     const OpenedIsd isd = OpenedIsd::OfBytes(File().Bytes());
     double value = 7;
     std::vector<NITFImgBandInfo::WideTable> tables;
+    NITF_2_1_ISD form;
     const std::vector<std::pair<const char*, std::function<bool()>>> refused = {
         {"\"NO_SUCH\"", [&] { return isd->GetImageSegmentField("NO_SUCH", GOOD) != nullptr; }},
         {"\"NO_SUCH\"", [&] { return isd->GetImageSegmentFieldAsDouble("NO_SUCH", value, GOOD); }},
@@ -343,6 +344,13 @@ TEST(ForwardersTest, OfImagesNameTheFieldTreOrBandThatIsNotThere)
         {"band 99", [&] { return isd->GetLUTsOfImageBand(99, tables, GOOD); }},
         {"\"NITF_IM:2:memory\"", [&] { return isd->GetImageSegmentIndex("NITF_IM:2:memory") != -1; }},
         {"\"\"", [&] { return isd->GetImageSegmentIndex(nullptr) != -1; }},
+        {"\"NoModel\"", [&] { return isd->GetTSMSensorModel("NoModel", GOOD) != nullptr; }},
+        {"\"ImageSegment 2\"", [&] { return isd->GetTSMSensorModel("NoModel", BEYOND) != nullptr; }},
+        {"\"ImageSegment 2\"", [&] { return isd->SetTSMISD(2, &form); }},
+        {"\"ImageSegment 2\"", [&] { return isd->PopulateTSMISDImageSegments(&form, 2); }},
+        {"\"ImageSegment -1\"", [&] { return isd->PopulateCSMImageObject(*std::make_unique<::image>(), -1); }},
+        {"\"no.key\"", [&] { return isd->GetOrmoMetadata("no.key", GOOD) != nullptr; }},
+        {"\"ImageSegment 2\"", [&] { return isd->GetOrmoMetadata("image.category", BEYOND) != nullptr; }},
     };
     for (const auto& [text, ask] : refused) {
         EXPECT_FALSE(ask()) << text;
@@ -350,6 +358,8 @@ TEST(ForwardersTest, OfImagesNameTheFieldTreOrBandThatIsNotThere)
         EXPECT_THAT(isd->GetErrorMessage(), HasSubstr(text));
     }
     EXPECT_EQ(value, 7);
+    EXPECT_STREQ(isd->GetOrmoMetadata("image.category", GOOD), "CLOUD");
+    EXPECT_EQ(isd->GetErrorMessage(), nullptr);
     EXPECT_EQ(isd->GetImageSegmentIndex(" NITF_IM:1:memory "), 1);
     EXPECT_EQ(isd->GetErrorMessage(), nullptr);
 }
