@@ -32,8 +32,10 @@ public:
                                  ImageSupportData** aOut, bool aAllSegments, bool aFlag2);
 
     /// Makes an ISD of what can be read of a damaged NITF file: segments whose subheaders cannot be read are null, with
-    /// their place in the segment information and the reason among the findings of the ISD. Nothing is guessed. No
-    /// companion is asked. Throws as CreateISD when not even the file header can be read.
+    /// their place in the segment information and the reason among the findings of the ISD. Nothing is guessed: a count
+    /// or length of the file header that leads nowhere is replaced only when exactly one other number lets every
+    /// segment begin with its mark and all add up to the size of the file, and a finding says so. No companion is
+    /// asked. Throws as CreateISD when not even the file header can be read.
     static void Salvage(const char* aPath, ImageSupportData** aOut);
 
     /// Makes an ISD of a filled NITF ISD of the CSM API (WrapperCSMIsdNITF20, WrapperCSMIsdNITF21), with no file at

@@ -4,6 +4,7 @@
 #include "foundation/CSMExceptions.h"
 #include "foundation/detail/Ascii.h"
 #include "foundation/detail/HandOut.h"
+#include "isd/detail/HeaderRepair.h"
 #include "isd/detail/IsdParts.h"
 #include "isd/detail/WrappedIsd.h"
 #include "raster/GDALNITFFileReader.h"
@@ -88,6 +89,9 @@ void FileReader::ReadHeader()
 {
     Detail::RawFileHeader raw =
         Detail::ReadRawFileHeader(*m_parts.source, m_request.first, m_request.version, m_findings);
+    // A header that is read again with another number in it is judged by what is found then.
+    const bool isRepaired = m_request.salvage && !raw.streaming &&
+                            Detail::RepairFileHeader(*m_parts.source, m_request.version, raw.bytes, m_findings);
     NITFFieldSegment::Input input;
     input.versionText = NITFCnst::GetNITFVersionString(m_request.version);
     input.raw = std::move(raw.bytes);
@@ -104,7 +108,7 @@ void FileReader::ReadHeader()
     } catch (const ImageSupportDataConstructionException&) {
         Refuse(m_findings);
     }
-    if (errors != 0) {
+    if (errors != 0 && !isRepaired) {
         Refuse(m_findings);  // HL cannot be, whatever the fields say
     }
     m_parts.versionText = m_parts.header->GetNITFVersion();
@@ -128,7 +132,8 @@ void FileReader::BuildInfos()
     const std::uint64_t headerLength = header.GetFileHeaderLength();
     const std::uint64_t fileLength = header.GetFileLength();
     // The tables decide where the segments are, so an FL that only fails to cover them is no reason to refuse the file.
-    const std::uint64_t covered = fileLength >= headerLength ? std::max(fileLength, SumOfLengths()) : fileLength;
+    const bool isUsable = fileLength >= headerLength || m_request.salvage;
+    const std::uint64_t covered = isUsable ? std::max(fileLength, SumOfLengths()) : fileLength;
     std::string errors;
     if (!m_parts.infos.Build(header.GetVersion(), headerLength, covered, header.GetSegmentLengths(), errors)) {
         m_findings.Add(Detail::MakeFinding(errors), errors);

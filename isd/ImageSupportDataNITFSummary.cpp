@@ -64,7 +64,11 @@ std::string ImageSupportDataNITF::GetImageSummary(std::size_t aImage) const
     }
     const auto number = [image](const char* aField) { return NITFWords::Number(image->FieldText(aField)); };
     const auto code = [image](const char* aField) { return NITFWords::Shown(image->FieldText(aField)); };
-    std::string text = number("NCOLS") + " columns x " + number("NROWS") + " rows, " +
+    const auto counted = [&number](const char* aField, const char* aWord) {
+        const std::string count = number(aField);
+        return count + ' ' + aWord + (count == "1" ? "" : "s");
+    };
+    std::string text = counted("NCOLS", "column") + " x " + counted("NROWS", "row") + ", " +
                        NITFWords::Count(image->GetNumOfImageBands(), "band") + " of " + number("NBPP") + "-bit " +
                        NITFWords::Meaning(*image, "PVTYPE") + ", " + code("IREP") + ", " + code("ICAT") + ", " +
                        NITFWords::Meaning(*image, "IC");

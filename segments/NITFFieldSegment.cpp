@@ -331,6 +331,13 @@ bool NITFFieldSegment::GetFieldAt(std::size_t aIndex, std::string& aName, const 
     return m_parts->record.At(aIndex, aName, aValue, aLength);
 }
 
+std::uint64_t NITFFieldSegment::GetFieldOffset(std::size_t aIndex) const noexcept
+{
+    const Detail::FieldStore& store = m_parts->record.Store();
+    return m_parts->fileOffset +
+           (aIndex < store.Entries().size() ? store.Position(store.Entries()[aIndex]) : store.Size());
+}
+
 const char* NITFFieldSegment::TreRefusal() const noexcept
 {
     return nullptr;

@@ -75,6 +75,8 @@ public:
     std::size_t GetNumOfFields() const noexcept;
     /// One field by its place in the header, without building any map.
     bool GetFieldAt(std::size_t aIndex, std::string& aName, const char*& aValue, std::size_t& aLength) const;
+    /// Where a field begins in the file; the end of the fields that were read for an index behind the last.
+    std::uint64_t GetFieldOffset(std::size_t aIndex) const noexcept;
     /// The value of a field as stored; an empty view with a null pointer when it is not there. Leaves the messages
     /// alone.
     std::string_view FieldText(std::string_view aName) const noexcept;

@@ -23,6 +23,7 @@ struct Command
     Action (*declare)(CLI::App& aApp);
 };
 
-inline constexpr const char* EXIT_CODES_OF_FILES = "0 done, 2 wrong use or a file that cannot be opened";
+inline constexpr const char* EXIT_CODES_OF_FILES =
+    "0 done, 1 a file has errors that salvage lets pass, 2 wrong use or a file that cannot be opened";
 
 }  // namespace OrmoNitf

@@ -5,18 +5,24 @@
 namespace OrmoNitf {
 
 extern const Command CGM;
+extern const Command COMPLETION;
 extern const Command DESCRIBE;
+extern const Command DIFF;
+extern const Command DUMP;
 extern const Command EXTRACT;
 extern const Command INFO;
 extern const Command JSON;
+extern const Command MANUAL;
 extern const Command PLUGIN;
 extern const Command PREVIEW;
 extern const Command PROPERTY;
+extern const Command TABLE;
 extern const Command VALIDATE;
 extern const Command XML;
 
 /// In the order in which --help lists them.
-inline constexpr const Command* COMMANDS[] = {&INFO,     &JSON,    &XML, &VALIDATE, &PROPERTY,
-                                              &DESCRIBE, &EXTRACT, &CGM, &PREVIEW,  &PLUGIN};
+inline constexpr const Command* COMMANDS[] = {&INFO, &JSON,    &XML,      &VALIDATE, &TABLE,
+                                              &DIFF, &DUMP,    &PROPERTY, &DESCRIBE, &EXTRACT,
+                                              &CGM,  &PREVIEW, &PLUGIN,   &MANUAL,   &COMPLETION};
 
 }  // namespace OrmoNitf

@@ -255,12 +255,12 @@ void AddFileOptions(CLI::App& aApp, FileOptions& aOptions, bool aSalvage)
     aApp.add_option("FILE", aOptions.files, "NITF or NSIF files");
     aApp.add_option("-r,--recursive", aOptions.directories, "All NITF files at and below a directory")
         ->type_name("DIR")
-        ->expected(1);
+        ->allow_extra_args(false);
     aApp.add_option("--files-from", aOptions.listFrom, "A file with one path a line; - for standard input")
         ->type_name("FILE");
     aApp.add_option("-j,--jobs", aOptions.jobs, "How many files to work on at once")
         ->type_name("N")
-        ->check(CLI::Range(1, 256));
+        ->check(CLI::Range(1, 256).description(""));
     if (aSalvage) {
         aApp.add_flag("--salvage", aOptions.salvage, "Show what can be read of a damaged file, and say what cannot");
     }

@@ -4,6 +4,7 @@
 #include "isd/ImageSupportDataFactory.h"
 #include "tools/Files.h"
 
+#include <algorithm>
 #include <new>
 #include <stdexcept>
 #include <vector>
@@ -41,11 +42,15 @@ void PrintRefusal(const std::string& aPath, const std::string& aText)
 
 }  // namespace
 
-Isd OpenFile(const std::string& aPath, bool aImagesOnly)
+Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions)
 {
     ImageSupportData* isd = nullptr;
     try {
-        ImageSupportDataFactory::Create(aPath.c_str(), &isd, !aImagesOnly, false);
+        if (aOptions.salvage) {
+            ImageSupportDataFactory::Salvage(aPath.c_str(), &isd);
+        } else {
+            ImageSupportDataFactory::Create(aPath.c_str(), &isd, !aOptions.imagesOnly, false);
+        }
     } catch (const std::invalid_argument& exception) {
         PrintRefusal(aPath, exception.what());
         return nullptr;
@@ -63,6 +68,14 @@ Isd OpenFile(const std::string& aPath, bool aImagesOnly)
         ImageSupportDataFactory::Destroy(&isd);
     }
     return Isd(nitf);
+}
+
+int ExitCodeOf(const ImageSupportDataNITF& aIsd)
+{
+    const std::vector<Finding> findings = aIsd.GetFindings();
+    const bool good = std::all_of(findings.begin(), findings.end(),
+                                  [](const Finding& aFinding) { return aFinding.level == Finding::Level::Warning; });
+    return good ? EXIT_DONE : EXIT_FILE_HAS_ERRORS;
 }
 
 }  // namespace OrmoNitf

@@ -21,10 +21,19 @@ struct IsdDestroyer
 };
 using Isd = std::unique_ptr<ORMO::SensorModel::CSM::ImageSupportDataNITF, IsdDestroyer>;
 
-/// Opens a file; null, with the reason on standard error, when it cannot be opened.
-Isd OpenFile(const std::string& aPath, bool aImagesOnly = false);
+struct OpenOptions
+{
+    bool imagesOnly = false;  ///< leave out the segments behind the images
+    bool salvage = false;     ///< take what can be read of a damaged file
+};
 
-/// Writes one line to standard error, prefixed with the file name, without a control byte.
+/// Opens a file; null, with the reason among the problems, when it cannot be opened.
+Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions = {});
+
+/// EXIT_FILE_HAS_ERRORS when errors were found on reading, as only salvage lets them pass, else EXIT_DONE.
+int ExitCodeOf(const ORMO::SensorModel::CSM::ImageSupportDataNITF& aIsd);
+
+/// Writes one line to the problems, prefixed with the file name, without a control byte.
 void PrintProblem(const std::string& aPath, const std::string& aText);
 
 }  // namespace OrmoNitf

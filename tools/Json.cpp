@@ -1,177 +1,216 @@
-#include "foundation/CSMUtilString.h"
 #include "isd/ImageSupportDataFactory.h"
 #include "tools/Commands.h"
+#include "tools/Files.h"
+#include "tools/Filter.h"
 #include "tools/Isd.h"
-#include "tools/Output.h"
+#include "tools/JsonWriter.h"
+#include "tools/TypedValue.h"
 
 #include <algorithm>
+#include <iostream>
 #include <memory>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 namespace OrmoNitf {
 
 using namespace ORMO::SensorModel::CSM;
-using Object = nlohmann::ordered_json;
 
 namespace {
 
-std::string Base64(std::string_view aBytes)
+struct Options
 {
-    std::string text;
-    Util::CSMUtilString::AppendBase64(aBytes, text);
-    return text;
+    FileOptions files;
+    Filter filter;
+    bool typed = false;
+};
+
+/// The first thing that was wrong.
+void WriteError(const Finding& aFinding, JsonWriter& aOut)
+{
+    aOut.BeginObject().Key("text").Text(aFinding.sentence);
+    aOut.Key("segment");
+    aFinding.segment.empty() ? aOut.Null() : aOut.Latin1(aFinding.segment);
+    aOut.Key("index");
+    aFinding.index == Finding::NO_INDEX ? aOut.Null() : aOut.Number(std::int64_t{aFinding.index});
+    aOut.Key("field");
+    aFinding.field.empty() ? aOut.Null() : aOut.Latin1(aFinding.field);
+    aOut.Key("offset");
+    aFinding.offset == Finding::NO_OFFSET ? aOut.Null() : aOut.Number(aFinding.offset);
+    aOut.Key("value");
+    aFinding.value.empty() ? aOut.Text(aFinding.detail) : aOut.Value(aFinding.value);
+    aOut.EndObject();
 }
 
-std::string Utf8OfLatin1(std::string_view aBytes)
+/// What `json` prints of one file.
+class Document
 {
-    std::string text;
-    Util::CSMUtilString::AppendLatin1AsUtf8(aBytes, text);
-    return text;
-}
-
-/// File names and messages may hold any bytes: kept when they are UTF-8, else read as Latin-1.
-Object Text(const std::string& aText)
-{
-    Object text = aText;
-    try {
-        static_cast<void>(text.dump());
-        return text;
-    } catch (const Object::type_error&) {
-        return Utf8OfLatin1(aText);
+public:
+    Document(const ImageSupportDataNITF& aIsd, const Options& aOptions)
+        : m_isd(aIsd), m_options(aOptions), m_findings(aIsd.GetFindings()), m_out(Results())
+    {
     }
-}
 
-Object FieldValue(std::string_view aBytes)
-{
-    const bool control = std::any_of(aBytes.begin(), aBytes.end(), [](char aCharacter) {
-        const auto byte = static_cast<unsigned char>(aCharacter);
-        return byte < 0x20 || byte == 0x7F;
-    });
-    return control ? Object{{"base64", Base64(aBytes)}} : Object(Utf8OfLatin1(aBytes));
-}
+    void Write(const std::string& aPath)
+    {
+        m_out.BeginObject();
+        m_out.Key("file").Text(aPath);
+        m_out.Key("version").Text(m_isd.GetFileTypeAndVersion());
+        m_out.Key("size").Number(m_isd.GetNITFFileSize());
+        m_out.Key("warnings").BeginArray();
+        for (const std::string& warning : m_isd.GetWarnings()) {
+            m_out.Text(warning);
+        }
+        m_out.EndArray();
+        m_out.Key("segments").BeginArray();
+        WriteSegment(NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, 0, nullptr);
+        for (const NITFStdDataSegmentInfo* const info : m_isd.GetSegmentInfos().InFileOrder()) {
+            WriteSegment(info->GetDataSegmentType(), static_cast<std::size_t>(info->GetSegmentIndex()), info);
+        }
+        m_out.EndArray().EndObject();
+        Results() << '\n';
+    }
 
-template<typename Owner>
-Object Fields(const Owner& aOwner)
-{
-    Object fields = Object::array();
-    std::string name;
-    for (std::size_t i = 0; i != aOwner.GetNumOfFields(); ++i) {
-        const char* value = nullptr;
-        std::size_t length = 0;
-        if (aOwner.GetFieldAt(i, name, value, length)) {
-            fields.push_back(Object::array({Utf8OfLatin1(name), FieldValue({value, length})}));
+private:
+    static bool IsArea(const TRE& /*aOwner*/, const std::string& /*aField*/) { return false; }
+    static bool IsArea(const NITFFieldSegment& aOwner, const std::string& aField)
+    {
+        return aOwner.GetFieldValueDataType(aField.c_str()) == Util::CSMCnst::DATA_TYPE_EXTENSION_DATA;
+    }
+
+    template<typename Owner>
+    void WriteFields(const Owner* aOwner)
+    {
+        m_out.Key("fields");
+        m_options.typed ? m_out.BeginObject() : m_out.BeginArray();
+        std::string name;
+        for (std::size_t i = 0; aOwner != nullptr && i != aOwner->GetNumOfFields(); ++i) {
+            const char* value = nullptr;
+            std::size_t length = 0;
+            if (!aOwner->GetFieldAt(i, name, value, length)) {
+                continue;
+            }
+            if (m_options.typed) {
+                // An extension area is told TRE by TRE.
+                if (IsArea(*aOwner, name)) {
+                    continue;
+                }
+                m_out.Key(name);
+                WriteTyped(*aOwner, name, {value, length}, m_out);
+            } else {
+                m_out.BeginArray().Latin1(name).Value({value, length}).EndArray();
+            }
+        }
+        m_options.typed ? m_out.EndObject() : m_out.EndArray();
+    }
+
+    void WriteTREs(const TREStore& aStore)
+    {
+        for (const TRE* const tre : aStore.InOrder()) {
+            if (!m_options.filter.HasTre(tre->GetTag())) {
+                continue;
+            }
+            const std::size_t length = tre->GetLengthOfDataField();
+            m_out.BeginObject();
+            m_out.Key("tag").Latin1(tre->GetTag());
+            m_out.Key("type").Latin1(TRE::GetTRETypeString(tre->GetTREType()));
+            m_out.Key("typed").Bool(!tre->IsGenericTRE());
+            m_out.Key("area").Latin1(tre->GetExtensionArea());
+            m_out.Key("length").Number(std::uint64_t{length});
+            WriteFields(tre);
+            // What the fields say need not be said twice.
+            if (!m_options.typed || tre->IsGenericTRE()) {
+                std::size_t size = 0;
+                const char* const data = tre->GetRawTREDataString(size);
+                m_out.Key("raw").Base64({data, size});
+            }
+            m_out.EndObject();
         }
     }
-    return fields;
-}
 
-Object Tre(const TRE& aTre)
-{
-    std::size_t length = 0;
-    const char* const data = aTre.GetRawTREDataString(length);
-    return Object{{"tag", Utf8OfLatin1(aTre.GetTag())},
-                  {"type", TRE::GetTRETypeString(aTre.GetTREType())},
-                  {"typed", !aTre.IsGenericTRE()},
-                  {"area", aTre.GetExtensionArea()},
-                  {"length", length},
-                  {"fields", Fields(aTre)},
-                  {"raw", Base64({data, length})}};
-}
+    /// The first error that names a segment; null when there is none.
+    const Finding* ErrorOf(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const
+    {
+        const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);
+        const bool header = aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER;
+        const auto error = std::find_if(m_findings.begin(), m_findings.end(), [&](const Finding& aFinding) {
+            return aFinding.level != Finding::Level::Warning && aFinding.segment == name &&
+                   (header || aFinding.index == static_cast<int>(aIndex));
+        });
+        return error == m_findings.end() ? nullptr : &*error;
+    }
 
-void AppendTREs(Object& aTres, const TREStore& aStore)
-{
-    for (const TRE* const tre : aStore.InOrder()) {
-        aTres.push_back(Tre(*tre));
+    void WriteSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex, const NITFStdDataSegmentInfo* aInfo)
+    {
+        if (!m_options.filter.HasSegment(aKind, aIndex)) {
+            return;
+        }
+        const NITFFieldSegment* const segment = m_isd.GetSegment(aKind, aIndex);
+        const std::uint64_t size =
+            aInfo == nullptr ? m_isd.GetNITFFileHeader()->GetFileHeaderLength() : aInfo->GetSegmentHeaderSize();
+        m_out.BeginObject();
+        m_out.Key("kind").Text(m_options.typed ? SegmentWord(aKind) : NITFStdDataSegment::GetDataSegmentName(aKind));
+        m_out.Key("index").Number(std::uint64_t{aIndex});
+        m_out.Key("header_offset").Number(aInfo == nullptr ? 0 : aInfo->GetSegmentHeaderStart());
+        m_out.Key("header_size").Number(size);
+        m_out.Key("data_offset").Number(aInfo == nullptr ? size : aInfo->GetSegmentDataStart());
+        m_out.Key("data_size").Number(aInfo == nullptr ? 0 : aInfo->GetSegmentDataSize());
+        if (const Finding* const error = ErrorOf(aKind, aIndex); error != nullptr) {
+            m_out.Key(segment == nullptr ? "error" : "doubtful");
+            WriteError(*error, m_out);
+        }
+        WriteFields(segment);
+        m_out.Key("tres").BeginArray();
+        if (segment != nullptr) {
+            WriteTREs(segment->GetTREStore());
+            WriteTREs(segment->GetOverflowTREStore());
+        }
+        const auto* const des = dynamic_cast<const NITFDESSubheader*>(segment);
+        if (des != nullptr && des->IsTREOverflow() && !m_isd.IsOverflowPlaced(aIndex)) {
+            WriteTREs(des->GetOverflowTREs());
+        }
+        m_out.EndArray().EndObject();
     }
-}
 
-Object Segment(const ImageSupportDataNITF& aIsd, NITFCnst::DataSegmentType aKind, std::size_t aIndex,
-               const NITFStdDataSegmentInfo* aInfo)
-{
-    const NITFFieldSegment* const segment = aIsd.GetSegment(aKind, aIndex);
-    const bool header = aInfo == nullptr;
-    const std::uint64_t headerSize =
-        header ? aIsd.GetNITFFileHeader()->GetFileHeaderLength() : aInfo->GetSegmentHeaderSize();
-    Object object{{"kind", NITFStdDataSegment::GetDataSegmentName(aKind)},
-                  {"index", aIndex},
-                  {"header_offset", header ? 0 : aInfo->GetSegmentHeaderStart()},
-                  {"header_size", headerSize},
-                  {"data_offset", header ? headerSize : aInfo->GetSegmentDataStart()},
-                  {"data_size", header ? 0 : aInfo->GetSegmentDataSize()}};
-    Object tres = Object::array();
-    if (segment != nullptr) {
-        AppendTREs(tres, segment->GetTREStore());
-        AppendTREs(tres, segment->GetOverflowTREStore());
-    }
-    const NITFDESSubheader* const des =
-        aKind == NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION ? aIsd.GetDataExtensionSegment(aIndex) : nullptr;
-    if (des != nullptr && des->IsTREOverflow() && !aIsd.IsOverflowPlaced(aIndex)) {
-        AppendTREs(tres, des->GetOverflowTREs());
-    }
-    object["fields"] = segment == nullptr ? Object::array() : Fields(*segment);
-    object["tres"] = std::move(tres);
-    return object;
-}
+    const ImageSupportDataNITF& m_isd;
+    const Options& m_options;
+    std::vector<Finding> m_findings;
+    JsonWriter m_out;
+};
 
-Object File(const std::string& aPath, const ImageSupportDataNITF& aIsd)
+int Json(const std::string& aPath, const Options& aOptions)
 {
-    Object warnings = Object::array();
-    for (const std::string& warning : aIsd.GetWarnings()) {
-        warnings.push_back(Text(warning));
+    const Isd isd = OpenFile(aPath, {.salvage = aOptions.files.salvage});
+    if (isd != nullptr) {
+        Document(*isd, aOptions).Write(aPath);
+        return ExitCodeOf(*isd);
     }
-    Object segments = Object::array();
-    segments.push_back(Segment(aIsd, NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER, 0, nullptr));
-    for (const NITFStdDataSegmentInfo* const info : aIsd.GetSegmentInfos().InFileOrder()) {
-        segments.push_back(
-            Segment(aIsd, info->GetDataSegmentType(), static_cast<std::size_t>(info->GetSegmentIndex()), info));
-    }
-    return Object{{"file", Text(aPath)},
-                  {"version", aIsd.GetFileTypeAndVersion()},
-                  {"size", aIsd.GetNITFFileSize()},
-                  {"warnings", std::move(warnings)},
-                  {"segments", std::move(segments)}};
-}
-
-/// A file that cannot be opened is a line too: the first thing that was wrong with it.
-Object Refusal(const std::string& aPath)
-{
+    // A file that cannot be opened is a line too.
     const std::vector<Finding>& findings = ImageSupportDataFactory::GetFindings();
-    const Finding finding = findings.empty() ? Finding{} : findings.front();
-    Object error{{"text", Text(finding.sentence)}};
-    error["segment"] = finding.segment.empty() ? Object(nullptr) : Object(finding.segment);
-    error["index"] = finding.index == Finding::NO_INDEX ? Object(nullptr) : Object(finding.index);
-    error["field"] = finding.field.empty() ? Object(nullptr) : Object(finding.field);
-    error["offset"] = finding.offset == Finding::NO_OFFSET ? Object(nullptr) : Object(finding.offset);
-    error["value"] = finding.value.empty() ? Object(finding.detail) : FieldValue(finding.value);
-    return Object{{"file", Text(aPath)}, {"error", std::move(error)}};
-}
-
-int Json(const std::vector<std::string>& aFiles)
-{
-    int exitCode = EXIT_DONE;
-    for (const std::string& file : aFiles) {
-        const Isd isd = OpenFile(file);
-        const std::string line = (isd == nullptr ? Refusal(file) : File(file, *isd)).dump() + '\n';
-        if (isd == nullptr) {
-            exitCode = EXIT_WRONG_USE;
-        }
-        // One write for a document: lines of several processes that share an output stay whole.
-        const int written = WriteText(line, "", file);
-        if (written != EXIT_DONE) {
-            return written;
-        }
-    }
-    return exitCode;
+    JsonWriter out(Results());
+    out.BeginObject().Key("file").Text(aPath).Key("error");
+    WriteError(findings.empty() ? Finding{} : findings.front(), out);
+    out.EndObject();
+    Results() << '\n';
+    return EXIT_WRONG_USE;
 }
 
 Action DeclareJson(CLI::App& aApp)
 {
-    auto files = std::make_shared<std::vector<std::string>>();
-    aApp.add_option("FILE", *files, "NITF or NSIF files")->required();
-    return [files] { return Json(*files); };
+    auto options = std::make_shared<Options>();
+    AddFileOptions(aApp, options->files, true);
+    aApp.add_flag("--typed", options->typed,
+                  "Fields as objects by name: numbers, ISO dates, text without padding (schemas/json)");
+    options->filter.AddOptions(aApp);
+    return [options] {
+        std::string reason;
+        if (!options->filter.Prepare(reason)) {
+            std::cerr << "ormo-nitf: " << reason << '\n';
+            return static_cast<int>(EXIT_WRONG_USE);
+        }
+        return ForEachFile(options->files, [&options](const std::string& aPath) { return Json(aPath, *options); });
+    };
 }
 
 }  // namespace
@@ -180,7 +219,7 @@ constexpr Command JSON{.name = "json",
                        .summary = "One JSON object per file and line",
                        .examples =
                            "json image.ntf | python3 -m json.tool\n"
-                           "json *.ntf > all.ndjson",
+                           "json --typed --segment image:0 --tre RPC00B -r images > images.ndjson",
                        .exitCodes = EXIT_CODES_OF_FILES,
                        .declare = DeclareJson};
 

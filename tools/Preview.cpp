@@ -23,7 +23,7 @@ struct Options
 
 int Preview(const std::string& aFile, unsigned aImage, const std::string& aOut)
 {
-    const Isd isd = OpenFile(aFile, true);
+    const Isd isd = OpenFile(aFile, {.imagesOnly = true});
     if (isd == nullptr) {
         return EXIT_WRONG_USE;
     }

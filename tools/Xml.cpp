@@ -22,7 +22,7 @@ struct Options
 
 int Xml(const std::string& aFile, bool aImagesOnly, const std::string& aOut)
 {
-    const Isd isd = OpenFile(aFile, aImagesOnly);
+    const Isd isd = OpenFile(aFile, {.imagesOnly = aImagesOnly});
     if (isd == nullptr) {
         return EXIT_WRONG_USE;
     }

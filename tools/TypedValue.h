@@ -1,0 +1,18 @@
+#pragma once
+
+#include "segments/NITFFieldSegment.h"
+#include "tools/JsonWriter.h"
+#include "tre/TRE.h"
+
+#include <string>
+
+namespace OrmoNitf {
+
+/// Writes the value of a field for its meaning: a number where the field is one, dates as ISO 8601 has them, text
+/// without the blanks around it, null for blanks, {"base64": "..."} for other bytes.
+void WriteTyped(const ORMO::SensorModel::CSM::TRE& aOwner, const std::string& aField, std::string_view aValue,
+                JsonWriter& aOut);
+void WriteTyped(const ORMO::SensorModel::CSM::NITFFieldSegment& aOwner, const std::string& aField,
+                std::string_view aValue, JsonWriter& aOut);
+
+}  // namespace OrmoNitf
