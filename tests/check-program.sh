@@ -30,6 +30,14 @@ python3 -c 'import json,sys
 for line in sys.stdin: json.loads(line)' <"$work/out" || fail "json of the sample is no JSON"
 expect 0 "$tool" describe
 expect 0 "$tool" describe BLOCKA L_LINES
+expect 0 "$tool" describe NROWS
+[ "$(grep -c '^NROWS (NITF 2' "$work/out")" -eq 2 ] || fail "describe does not know a header field in both versions"
+expect 0 "$tool" describe ImageSegment
+expect 0 "$tool" describe image IC
+grep -q "C8 (JPEG 2000)" "$work/out" || fail "describe does not tell what the values of a header field mean"
+expect 0 "$tool" describe SUN_EL
+expect 1 "$tool" describe image NROW
+grep -q "Did you mean NROWS?" "$work/err" || fail "describe does not tell the field that is meant"
 expect 1 "$tool" describe NOSUCH
 expect 2 "$tool" json "$work/nothing.ntf"
 grep -q "^$work/nothing.ntf: " "$work/err" || fail "an error line does not begin with the file name"
@@ -99,6 +107,109 @@ expect 2 "$tool" xml -o /dev/full "$sample"
 "$tool" json "$sample" >/dev/full 2>/dev/null && fail "a full standard output is no error"
 expect 2 "$tool" json "$work/absent"
 python3 -c 'import json,sys; json.load(sys.stdin)["error"]["text"]' <"$work/out" || fail "a file that cannot be opened is no line"
+python3 - "$work" "$tool" "$sample" "$source_dir" <<'PYTHON' || fail "typed JSON, tables, dumps or differences are not as they should be"
+import base64, csv, io, json, subprocess, sys
+work, tool, sample, source = sys.argv[1:]
+
+def run(*words, code=0):
+    done = subprocess.run([tool, *words], capture_output=True, text=True)
+    assert done.returncode == code, (words, done.returncode, done.stderr)
+    return done.stdout
+
+plain = json.loads(run("json", sample))
+typed = json.loads(run("json", "--typed", sample))
+assert [s["index"] for s in plain["segments"]] == [s["index"] for s in typed["segments"]]
+image = next(s for s in typed["segments"] if s["kind"] == "image")
+raw = dict(next(s for s in plain["segments"] if s["kind"] == "ImageSegment")["fields"])
+assert image["fields"]["NROWS"] == int(raw["NROWS"])
+assert image["fields"]["IDATIM"] == "%s-%s-%sT%s:%s:%sZ" % tuple(raw["IDATIM"][a:b] for a, b in
+        ((0, 4), (4, 6), (6, 8), (8, 10), (10, 12), (12, 14))), image["fields"]["IDATIM"]
+assert image["fields"]["TGTID"] is None and "IXSHD" not in image["fields"]
+one = json.loads(run("json", "--segment", "image:0", "--tre", "BLOCKA", sample))
+assert len(one["segments"]) == 1 and {t["tag"] for t in one["segments"][0]["tres"]} == {"BLOCKA"}
+
+rows = list(csv.reader(io.StringIO(run("table", "--field", "image.IDATIM", "--field", "BLOCKA.L_LINES",
+                                       "--field", "header.FTITLE", sample))))
+assert rows[0] == ["file", "image.IDATIM", "BLOCKA.L_LINES", "header.FTITLE"], rows
+assert rows[1][0] == sample and rows[1][1] == raw["IDATIM"] and rows[1][2].isdigit(), rows
+line = json.loads(run("table", "-f", "ndjson", "--each", "image", "--field", "ImageSegment.NROWS", sample))
+assert line == {"file": sample, "segment": "image 0", "ImageSegment.NROWS": int(raw["NROWS"])}, line
+run("table", "--field", "image.NOSUCH", sample, code=2)
+run("table", "--field", "nonsense", sample, code=2)
+
+# The rows of a dump follow one another without a gap and show what stands in the file.
+data = open(sample, "rb").read()
+at = 0
+for row in run("dump", sample, "header").splitlines()[2:]:
+    words = row.split()
+    if row.startswith("  TRE"):
+        break
+    offset, length = int(words[0]), int(words[1])
+    assert offset == at, row
+    at += length
+    if '"' in row and "..." not in row:
+        assert row[row.index('"') + 1:-1].encode() == data[offset:offset + length], row
+assert at == int(dict(plain["segments"][0]["fields"])["HL"])
+
+run("diff", sample, sample)
+changed = bytearray(data)
+fields = dict(plain["segments"][0]["fields"])
+changed[39:44] = b"Other"
+open(work + "/changed.ntf", "wb").write(changed)
+lines = run("diff", sample, work + "/changed.ntf", code=1).splitlines()
+assert len(lines) == 1 and lines[0].startswith("header FTITLE: "), lines
+
+# Salvage: one broken subheader, the rest as it was.
+text = next(s for s in plain["segments"] if s["kind"] == "TextSegment")
+broken = bytearray(data)
+broken[text["header_offset"]] = 0x58
+open(work + "/broken.ntf", "wb").write(broken)
+run("json", work + "/broken.ntf", code=2)
+left = json.loads(run("json", "--salvage", work + "/broken.ntf", code=1))
+for before, after in zip(plain["segments"], left["segments"], strict=True):
+    if before["kind"] == "TextSegment":
+        assert "error" in after and after["fields"] == [] and after["data_size"] == before["data_size"]
+    else:
+        assert before == after, before["kind"]
+assert "text 0: not readable" in run("info", "--salvage", work + "/broken.ntf", code=1)
+assert "58 45" in run("dump", "--salvage", work + "/broken.ntf", "text:0", code=1)
+
+try:
+    import jsonschema
+except ImportError:
+    sys.exit("python3-jsonschema is missing: packages.txt")
+for name, options in (("file", []), ("typed", ["--typed"])):
+    schema = json.load(open(source + "/schemas/json/" + name + ".schema.json"))
+    jsonschema.Draft202012Validator.check_schema(schema)
+    for code, file in ((0, sample), (2, work + "/nothing.ntf"), (1, work + "/broken.ntf")):
+        words = ["json", *options, *(["--salvage"] if code == 1 else []), file]
+        jsonschema.validate(json.loads(run(*words, code=code)), schema, jsonschema.Draft202012Validator)
+PYTHON
+mkdir -p "$work/many/deep"
+for i in 1 2 3 4 5 6 7 8 9; do cp "$sample" "$work/many/deep/$i.ntf"; done
+echo "no NITF" >"$work/many/other.txt"
+expect 0 "$tool" json -r "$work/many" -j 3
+[ "$(wc -l <"$work/out")" -eq 9 ] || fail "-r does not find every file"
+python3 -c 'import json,sys
+names = [json.loads(line)["file"] for line in sys.stdin]
+assert names == sorted(names)' <"$work/out" || fail "results do not stand in the order of the files"
+expect 2 "$tool" json "$sample" "$work/nothing.ntf" "$sample" -j 2
+[ "$(wc -l <"$work/out")" -eq 3 ] || fail "a failing file hides the others"
+tail -n 1 "$work/err" | grep -q "3 files: 2 without errors, 1 not read" || fail "there is no total"
+printf '%s\n\n%s\r\n' "$sample" "$sample" >"$work/list"
+expect 0 "$tool" info --files-from "$work/list"
+[ "$(grep -c "^$sample" "$work/out")" -eq 2 ] || fail "--files-from does not take every line"
+"$tool" info --files-from - <"$work/list" | cmp -s - "$work/out" || fail "--files-from - does not read standard input"
+grep -q $'\033' "$work/out" && fail "colours stand in a file"
+expect 2 "$tool" info
+expect 2 "$tool" info -r "$work/no/such/directory"
+expect 0 "$tool" manual
+if command -v man >/dev/null; then
+    man --warnings -l "$work/out" >/dev/null 2>"$work/err" || fail "the manual page cannot be shown"
+    [ -s "$work/err" ] && fail "the manual page has faults"
+fi
+expect 0 "$tool" completion
+bash -n "$work/out" || fail "the completion is no bash"
 mkfifo "$work/fifo"
 expect 2 timeout 5 "$tool" info "$work/fifo"
 
@@ -119,7 +230,8 @@ check_documents() {
     "$tool" validate --xml "$file" >"$work/report.xml" || [ $? -eq 1 ] || fail "validate of $file"
     xmllint --noout --schema "$source_dir/schemas/raster/ValidationSummaryNITF.xsd" "$work/report.xml" 2>"$work/err" ||
         { fail "validation report of $file is not valid"; head -n 3 "$work/err"; }
-    "$tool" info "$file" >/dev/null || fail "info of $file"
+    "$tool" info "$file" >"$work/info" || fail "info of $file"
+    if tail -n +2 "$work/info" | grep -qE '^.{101}'; then fail "info of $file has lines of more than 100 columns"; fi
 }
 
 check_documents "$sample"

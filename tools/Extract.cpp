@@ -15,9 +15,9 @@ using namespace ORMO::SensorModel::CSM;
 
 namespace {
 
-int Extract(const std::string& aFile, const SegmentName& aSegment, const std::string& aOut)
+int Extract(const std::string& aFile, const SegmentName& aSegment, const std::string& aOut, bool aSalvage)
 {
-    const Isd isd = OpenFile(aFile);
+    const Isd isd = OpenFile(aFile, {.salvage = aSalvage});
     if (isd == nullptr) {
         return EXIT_WRONG_USE;
     }
@@ -51,6 +51,7 @@ struct Options
     std::string segment;
     int index = -1;
     std::string out;
+    bool salvage = false;
 };
 
 int Run(const Options& aOptions)
@@ -65,7 +66,7 @@ int Run(const Options& aOptions)
         std::cerr << "ormo-nitf: " << reason << '\n';
         return EXIT_WRONG_USE;
     }
-    return Extract(aOptions.file, segment, aOptions.out);
+    return Extract(aOptions.file, segment, aOptions.out, aOptions.salvage);
 }
 
 Action DeclareExtract(CLI::App& aApp)
@@ -76,6 +77,7 @@ Action DeclareExtract(CLI::App& aApp)
         ->required();
     aApp.add_option("INDEX", options->index, "Index among the segments of its kind, from 0");
     aApp.add_option("-o", options->out, "File to write; - for standard output")->required();
+    aApp.add_flag("--salvage", options->salvage, "Take the data of a damaged file where its header says they are");
     return [options] { return Run(*options); };
 }
 
