@@ -136,12 +136,13 @@ void FieldRecord::Describe(const WalkResult& aResult, Finding& aFinding) const
 }
 
 std::size_t FieldRecord::AppendXml(FieldNaming aNaming, const char* aIndent, const char* aElement, std::string& aXml,
-                                   std::string_view aLeftOut) const
+                                   std::string_view aLeftOut, bool aEditableOnly) const
 {
     std::size_t position = 0;
     for (const FieldEntry& entry : m_store.Entries()) {
         ++position;
-        if (aLeftOut.empty() || aLeftOut != m_store.Row(entry).tag) {
+        const bool isLeftOut = !aLeftOut.empty() && aLeftOut == m_store.Row(entry).tag;
+        if (!isLeftOut && (!aEditableOnly || m_store.Table().IsEditable(entry.row))) {
             AppendFieldElement(m_store, entry, aNaming, position, aIndent, aElement, aXml);
         }
     }

@@ -6,6 +6,7 @@
 #include "fields/FieldXml.h"
 #include "fields/FindingList.h"
 #include "fields/ValueRule.h"
+#include "nitf/NITFCnst.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -77,10 +78,11 @@ public:
     /// the first byte of the record. The only place that words a walk that stopped.
     void Describe(const WalkResult& aResult, Finding& aFinding) const;
 
-    /// One XML element per field, each on a line of its own; the field of tag `aLeftOut` is left out. Answers the
-    /// number of fields.
+    /// One XML element per field, or per editable field, each on a line of its own; the field of tag `aLeftOut` is left
+    /// out. Answers the number of fields.
     std::size_t AppendXml(FieldNaming aNaming, const char* aIndent, const char* aElement, std::string& aXml,
-                          std::string_view aLeftOut = {}) const;
+                          std::string_view aLeftOut = {},
+                          bool aEditableOnly = NITFCnst::OUTPUT_EDIABLE_NITF_ATTR) const;
 
     bool operator==(const FieldRecord& aOther) const noexcept { return m_store == aOther.m_store; }
 

@@ -11,16 +11,23 @@ void AppendFieldAttributes(const FieldStore& aFields, const FieldEntry& aEntry, 
     const FieldRow& row = aFields.Row(aEntry);
     std::string tag;
     aFields.AppendName(aEntry, tag);
-    const bool byPosition = aNaming == FieldNaming::PositionAndTag;
-    AppendXmlAttribute(NITFCnst::XML_ATTR_FIELD, byPosition ? std::to_string(aPosition) : tag, aXml);
-    AppendXmlAttribute(NITFCnst::XML_ATTR_NAME, byPosition ? tag.c_str() : row.label, aXml);
-    AppendXmlAttribute(NITFCnst::XML_ATTR_SIZE, std::to_string(aEntry.length), aXml);
+    if (aNaming == FieldNaming::TagAndLongName) {
+        AppendXmlAttribute(NITFCnst::XML_ATTR_FIELD, tag, aXml);
+        AppendXmlAttribute(NITFCnst::XML_ATTR_NAME, row.label, aXml);
+    } else {
+        AppendXmlAttribute(NITFCnst::XML_ATTR_FIELD, aPosition, aXml);
+        AppendXmlAttribute(NITFCnst::XML_ATTR_NAME, tag, aXml);
+    }
+    AppendXmlAttribute(NITFCnst::XML_ATTR_SIZE, aEntry.length, aXml);
     AppendXmlAttribute(NITFCnst::XML_ATTR_TYPE,
                        NITFCnst::GetFieldTypeForDisplay(static_cast<NITFCnst::FieldType>(row.need)), aXml);
     AppendXmlAttribute(
         NITFCnst::XML_ATTR_EDITABLE,
         aFields.Table().IsEditable(aEntry.row) ? NITFCnst::NITF_FIELD_VALUE_TRUE : NITFCnst::NITF_FIELD_VALUE_FALSE,
         aXml);
+    if (aNaming == FieldNaming::PositionTagAndLongName) {
+        AppendXmlAttribute(NITFCnst::XML_ATTR_LONG_NAME, row.label, aXml);
+    }
 }
 
 void AppendFieldElement(const FieldStore& aFields, const FieldEntry& aEntry, FieldNaming aNaming, std::size_t aPosition,

@@ -10,11 +10,13 @@ namespace ORMO::SensorModel::CSM::Detail {
 /// What the first two attributes of a field's element say.
 enum class FieldNaming : std::uint8_t
 {
-    TagAndLongName,  ///< field="LISH001" name="Length of nth Image Subheader"
-    PositionAndTag   ///< field="7" name="TXTFMT"
+    TagAndLongName,          ///< field="LISH001" name="Length of nth Image Subheader"
+    PositionAndTag,          ///< field="7" name="SUN_EL"
+    PositionTagAndLongName,  ///< field="7" name="TXTFMT", and longName="Text Format" behind all others
 };
 
-/// Appends the attributes of a field: field, name, size, type and editable. The position is counted from 1.
+/// Appends the attributes of a field: field, name, size, type and editable, and the long name. The position is counted
+/// from 1.
 void AppendFieldAttributes(const FieldStore& aFields, const FieldEntry& aEntry, FieldNaming aNaming,
                            std::size_t aPosition, std::string& aXml);
 

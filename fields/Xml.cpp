@@ -3,49 +3,103 @@
 #include "foundation/CSMUtilString.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
+namespace {
+
+enum class Carried : std::uint8_t
+{
+    AsItIs,
+    Escaped,
+    AsTwoBytes,  // a Latin-1 character above 127
+    Never
+};
+
+constexpr std::array<Carried, 256> CARRIED = [] {
+    std::array<Carried, 256> table{};
+    for (std::size_t byte = 0; byte != table.size(); ++byte) {
+        table[byte] = byte < 0x20 ? Carried::Never : byte < 0x80 ? Carried::AsItIs : Carried::AsTwoBytes;
+    }
+    // A parser would turn these three into other white space.
+    for (const char character : {'\t', '\n', '\r', '&', '<', '>', '"', '\''}) {
+        table[static_cast<unsigned char>(character)] = Carried::Escaped;
+    }
+    return table;
+}();
+
+Carried HowCarried(char aCharacter) noexcept
+{
+    return CARRIED[static_cast<unsigned char>(aCharacter)];
+}
+
+std::string_view Escape(char aCharacter) noexcept
+{
+    switch (aCharacter) {
+        case '&':
+            return "&amp;";
+        case '<':
+            return "&lt;";
+        case '>':
+            return "&gt;";
+        case '"':
+            return "&quot;";
+        case '\'':
+            return "&apos;";
+        case '\r':
+            return "&#13;";
+        case '\n':
+            return "&#10;";
+        default:
+            return "&#9;";
+    }
+}
+
+/// Length of the front that stands in a document as it is.
+std::size_t PlainFront(std::string_view aBytes) noexcept
+{
+    const auto* const end = std::find_if(aBytes.begin(), aBytes.end(),
+                                         [](char aCharacter) { return HowCarried(aCharacter) != Carried::AsItIs; });
+    return static_cast<std::size_t>(end - aBytes.begin());
+}
+
+/// Appends bytes as text; those that XML cannot carry become '?'.
+void AppendText(std::string_view aBytes, std::string& aOut)
+{
+    while (true) {
+        const std::size_t plain = PlainFront(aBytes);
+        aOut.append(aBytes.data(), plain);
+        if (plain == aBytes.size()) {
+            return;
+        }
+        const char character = aBytes[plain];
+        switch (HowCarried(character)) {
+            case Carried::Escaped:
+                aOut += Escape(character);
+                break;
+            case Carried::AsTwoBytes:
+                Util::CSMUtilString::AppendLatin1AsUtf8({&character, 1}, aOut);
+                break;
+            default:
+                aOut += '?';
+        }
+        aBytes.remove_prefix(plain + 1);
+    }
+}
+
+}  // namespace
+
 bool IsXmlText(std::string_view aBytes) noexcept
 {
-    return std::all_of(aBytes.begin(), aBytes.end(), [](char aCharacter) {
-        const auto byte = static_cast<unsigned char>(aCharacter);
-        return byte >= 0x20 || byte == '\t' || byte == '\n' || byte == '\r';
-    });
+    return std::none_of(aBytes.begin(), aBytes.end(),
+                        [](char aCharacter) { return HowCarried(aCharacter) == Carried::Never; });
 }
 
 void AppendXmlText(std::string_view aBytes, std::string& aOut)
 {
-    for (const char character : aBytes) {
-        switch (character) {
-            case '&':
-                aOut += "&amp;";
-                break;
-            case '<':
-                aOut += "&lt;";
-                break;
-            case '>':
-                aOut += "&gt;";
-                break;
-            case '"':
-                aOut += "&quot;";
-                break;
-            case '\'':
-                aOut += "&apos;";
-                break;
-            case '\r':  // a parser would turn these three into other white space
-                aOut += "&#13;";
-                break;
-            case '\n':
-                aOut += "&#10;";
-                break;
-            case '\t':
-                aOut += "&#9;";
-                break;
-            default:
-                Util::CSMUtilString::AppendLatin1AsUtf8({&character, 1}, aOut);
-        }
-    }
+    AppendText(aBytes, aOut);
 }
 
 void AppendXmlAttribute(std::string_view aName, std::string_view aValue, std::string& aOut)
@@ -53,26 +107,22 @@ void AppendXmlAttribute(std::string_view aName, std::string_view aValue, std::st
     aOut += ' ';
     aOut += aName;
     aOut += "=\"";
-    if (IsXmlText(aValue)) {
-        AppendXmlText(aValue, aOut);
-    } else {
-        std::string carried(aValue);
-        std::replace_if(
-            carried.begin(), carried.end(),
-            [](char c) {
-                return !IsXmlText({&c, 1});
-            },
-            '?');
-        AppendXmlText(carried, aOut);
-    }
+    AppendText(aValue, aOut);
     aOut += '"';
+}
+
+void AppendXmlAttribute(std::string_view aName, std::uint64_t aValue, std::string& aOut)
+{
+    std::array<char, 20> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), aValue).ptr;
+    AppendXmlAttribute(aName, {digits.data(), static_cast<std::size_t>(end - digits.data())}, aOut);
 }
 
 void AppendXmlValueAndEnd(std::string_view aElement, std::string_view aValue, std::string& aOut)
 {
     if (IsXmlText(aValue)) {
         aOut += '>';
-        AppendXmlText(aValue, aOut);
+        AppendText(aValue, aOut);
     } else {
         AppendXmlAttribute("base64Encoded", "T", aOut);
         aOut += '>';

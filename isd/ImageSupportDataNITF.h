@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <iosfwd>
 #include <map>
 #include <memory>
 #include <string>
@@ -368,7 +369,25 @@ public:
     std::string GetFileSummary() const;
     std::string GetImageSummary(std::size_t aImage) const;
 
+    // XML. What was read is written; segments that were left out on opening are no part of it.
+
+    /// The whole file as an XML document, kept in the object.
     const char* Serialize() override;
+    /// The same for a version, 20 or 21 (also for NSIF 1.0); null for any other than the file's own.
+    const char* SerializeImageSupportDataNITF(int aVersion);
+    /// Writes the same document in pieces, so that it never stands in memory as a whole. False with a text in
+    /// GetErrorMessage when not all of it could be written.
+    bool WriteXml(std::FILE* aOut);
+    /// The element that holds all image segments; nothing when there are none. What cannot be written sets failbit.
+    void SerializeImageSegments(std::ostream& aOut) const;
+    /// The same for graphics, or for symbols and labels.
+    void SerializeVersionSpecificDataSegments(std::ostream& aOut) const;
+    /// The element of one segment, by the name of its kind ("NITFFileHeader" with index 0, "ImageSegment"); kept by
+    /// the segment until it is asked again. Null with a text in GetErrorMessage when there is none.
+    const char* GetSerializedXMLMetadata(const char* aSegment, int aIndex);
+    /// The same for graphics, symbols and labels only.
+    const char* GetVersionSpecificSerializedXMLMetadata(const char* aSegment, int aIndex);
+
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
     /// The findings of the last rigorous validation, those of reading included, errors first.
     std::vector<Finding> GetValidationFindings() const;

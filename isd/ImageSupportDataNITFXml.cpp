@@ -1,160 +1,159 @@
-// The documents of a NITF file: all of it as XML, and the validation summary.
+// The whole file, or parts of it, as XML.
 
 #include "fields/Xml.h"
-#include "foundation/CSMCnst.h"
 #include "isd/detail/IsdParts.h"
+#include "isd/detail/XmlFrame.h"
 #include "segments/detail/SegmentLayout.h"
 
+#include <ostream>
 #include <string_view>
 
 namespace ORMO::SensorModel::CSM {
 
 namespace {
 
-constexpr std::string_view SCHEMA_INSTANCE = "http://www.w3.org/2001/XMLSchema-instance";
-constexpr std::string_view SCHEMA_BASE = "http://ormo.example/schemas";
-
-/// The declaration and a root start tag over five lines.
-void OpenDocument(std::string& aXml, std::string_view aRoot, std::string_view aSchema, std::string_view aVersion)
-{
-    aXml += Util::CSMCnst::XML_VERSION_STR;
-    aXml += "\n<";
-    aXml += aRoot;
-    aXml += "\n  xmlns=\"ORMO\"\n  xmlns:xsd=\"";
-    aXml += SCHEMA_INSTANCE;
-    aXml += "\"\n  xsd:schemaLocation=\"ORMO ";
-    aXml += SCHEMA_BASE;
-    aXml += aSchema;
-    aXml += "\"\n  version=\"";
-    aXml += aVersion;
-    aXml += "\">\n";
-}
-
-void CloseDocument(std::string& aXml, std::string_view aRoot)
-{
-    aXml += "</";
-    aXml += aRoot;
-    aXml += ">\n";
-}
-
-/// A summary of what was found in one segment at one level: its name and a line for each finding.
-void AppendSummary(std::string& aXml, std::string_view aLevel, std::string_view aName,
-                   const std::vector<std::string>& aLines)
-{
-    if (aLines.empty()) {
-        return;
-    }
-    aXml += "  <Summary";
-    Detail::AppendXmlAttribute("type", aLevel, aXml);
-    aXml += ">\n";
-    if (!aName.empty()) {
-        aXml += "      ";
-        Detail::AppendXmlText(aName, aXml);
-        aXml += '\n';
-    }
-    for (const std::string& line : aLines) {
-        aXml += "      ";
-        Detail::AppendXmlText(line, aXml);
-        aXml += '\n';
-    }
-    aXml += "    </Summary>\n";
-}
-
-/// The summaries of all findings of a level; those of one segment follow each other.
-void AppendSummaries(std::string& aXml, const Detail::FindingList& aFindings, bool aErrors)
-{
-    const char* const level = aErrors ? "ERROR" : "WARN";
-    std::string name;
-    std::vector<std::string> lines;
-    for (std::size_t i = 0; i != aFindings.KeptCount(); ++i) {
-        const Finding& finding = aFindings.Kept(i);
-        if ((finding.level != Finding::Level::Warning) != aErrors) {
-            continue;
-        }
-        std::string segment = finding.segment;
-        segment += finding.index == Finding::NO_INDEX ? "" : ' ' + std::to_string(finding.index);
-        if (segment != name) {
-            AppendSummary(aXml, level, name, lines);
-            lines.clear();
-            name = std::move(segment);
-        }
-        lines.push_back(finding.Line());
-    }
-    if (!aErrors && aFindings.LeftOut() != 0) {
-        lines.push_back(aFindings.LeftOutLine());
-    }
-    AppendSummary(aXml, level, name, lines);
-}
+constexpr const char* HEADER_INDENT = "  ";
+constexpr const char* SEGMENT_INDENT = "    ";
 
 /// The group of all segments of a kind that were read; nothing when there are none.
-void AppendSegments(std::string& aXml, const Detail::SegmentKind& aKind, const ImageSupportDataNITF::Parts& aParts)
+void AppendGroup(NITFFieldSegment::Document& aOut, const Detail::SegmentKind& aKind,
+                 const ImageSupportDataNITF::Parts& aParts)
 {
-    std::string group;
     std::size_t total = 0;
-    for (std::size_t i = 0; i != aParts.Count(aKind.kind); ++i) {
-        NITFFieldSegment* const segment = aParts.Segment(aKind.kind, i);
-        if (segment != nullptr) {
-            ++total;
-            group += segment->SerializeDataSegment("    ");
-        }
+    const std::size_t count = aParts.Count(aKind.kind);
+    for (std::size_t i = 0; i != count; ++i) {
+        total += aParts.Segment(aKind.kind, i) == nullptr ? 0U : 1U;
     }
     if (total == 0) {
         return;
     }
-    aXml += std::string("  <") + aKind.group + " total=\"" + std::to_string(total) + "\">\n";
-    aXml += group;
-    aXml += std::string("  </") + aKind.group + ">\n";
+    std::string& xml = aOut.Text();
+    xml.append("  <").append(aKind.group);
+    Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_TOTAL, total, xml);
+    xml += ">\n";
+    for (std::size_t i = 0; i != count; ++i) {
+        const NITFFieldSegment* const segment = aParts.Segment(aKind.kind, i);
+        if (segment != nullptr) {
+            segment->AppendElement(aOut, SEGMENT_INDENT, static_cast<int>(i));
+        }
+    }
+    xml.append("  </").append(aKind.group).append(">\n");
+}
+
+template<typename Wanted>
+void AppendGroups(NITFFieldSegment::Document& aOut, const ImageSupportDataNITF::Parts& aParts, Wanted aWanted)
+{
+    for (const Detail::SegmentKind& kind : Detail::SEGMENT_KINDS) {
+        if (kind.version == aParts.Version() && kind.mark[0] != '\0' && aWanted(kind.kind)) {
+            AppendGroup(aOut, kind, aParts);
+        }
+    }
+}
+
+bool IsVersionSpecific(NITFCnst::DataSegmentType aKind) noexcept
+{
+    return aKind == NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC || aKind == NITFCnst::DATA_SEGMENT_TYPE_SYMBOL ||
+           aKind == NITFCnst::DATA_SEGMENT_TYPE_LABEL;
+}
+
+bool IsImage(NITFCnst::DataSegmentType aKind) noexcept
+{
+    return aKind == NITFCnst::DATA_SEGMENT_TYPE_IMAGE;
+}
+
+bool IsAny(NITFCnst::DataSegmentType) noexcept
+{
+    return true;
+}
+
+void AppendDocument(NITFFieldSegment::Document& aOut, const ImageSupportDataNITF::Parts& aParts, const char* aVersion)
+{
+    Detail::OpenDocument(aOut.Text(), NITFCnst::XML_ELEMENT_NITF, NITFCnst::XML_SCHEMA_FILE_ISD, aVersion);
+    aParts.header->AppendElement(aOut, HEADER_INDENT, 0);
+    AppendGroups(aOut, aParts, IsAny);
+    Detail::CloseDocument(aOut.Text(), NITFCnst::XML_ELEMENT_NITF);
+}
+
+template<typename Wanted>
+void WriteGroups(std::ostream& aOut, const ImageSupportDataNITF::Parts& aParts, Wanted aWanted)
+{
+    NITFFieldSegment::Document out([&](std::string_view aPiece) {
+        return aOut.write(aPiece.data(), static_cast<std::streamsize>(aPiece.size())).good();
+    });
+    AppendGroups(out, aParts, aWanted);
+    if (!out.Finish()) {
+        aOut.setstate(std::ios::failbit);
+    }
 }
 
 }  // namespace
 
 const char* ImageSupportDataNITF::Serialize()
 {
+    return SerializeImageSupportDataNITF(GetNITFFileVersionCode() == NITFCnst::NITF_VERSION_NUMBER_20
+                                             ? NITFCnst::NITF_VERSION_NUMBER_20
+                                             : NITFCnst::NITF_VERSION_NUMBER_21);
+}
+
+const char* ImageSupportDataNITF::SerializeImageSupportDataNITF(int aVersion)
+{
+    const bool is20 = aVersion == NITFCnst::NITF_VERSION_NUMBER_20;
+    if (!is20 && aVersion != NITFCnst::NITF_VERSION_NUMBER_21) {
+        return nullptr;
+    }
     if (!m_keptText.empty()) {
         return m_keptText.c_str();
     }
-    if (m_parts->header == nullptr) {
+    if (m_parts->header == nullptr || is20 != (m_parts->Version() == NITFCnst::NITF_VERSION_NUMBER_20)) {
         return nullptr;
     }
-    std::string xml;
-    OpenDocument(xml, NITFCnst::XML_ELEMENT_NITF, NITFCnst::XML_SCHEMA_FILE_ISD, GetFormatVersion());
-    xml += m_parts->header->SerializeDataSegment("  ");
-    for (const Detail::SegmentKind& kind : Detail::SEGMENT_KINDS) {
-        if (kind.version == m_parts->Version() && kind.mark[0] != '\0') {
-            AppendSegments(xml, kind, *m_parts);
-        }
-    }
-    CloseDocument(xml, NITFCnst::XML_ELEMENT_NITF);
-    m_keptText = std::move(xml);
+    NITFFieldSegment::Document out;
+    AppendDocument(out, *m_parts, GetFormatVersion());
+    m_keptText = std::move(out.Text());
     return m_keptText.c_str();
 }
 
-bool ImageSupportDataNITF::RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings)
+bool ImageSupportDataNITF::WriteXml(std::FILE* aOut)
 {
-    if (!m_rigorouslyValidated || m_validationSummaryReport.empty()) {
-        Detail::FindingList& findings = m_parts->validation;
-        findings.Clear();
-        Detail::CheckSegment(*m_parts->header, findings);
-        for (const std::unique_ptr<NITFFieldSegment>& segment : m_parts->segments) {
-            if (segment != nullptr) {
-                Detail::CheckSegment(*segment, findings);
-            }
-        }
-        findings.Add(m_parts->findings);
-        std::string report;
-        OpenDocument(report, NITFCnst::XML_ELEMENT_NITF_VALIDATION_SUMMARY,
-                     NITFCnst::XML_SCHEMA_FILE_VALIDATION_SUMMARY, "1.0");
-        AppendSummaries(report, findings, true);
-        AppendSummaries(report, findings, false);
-        CloseDocument(report, NITFCnst::XML_ELEMENT_NITF_VALIDATION_SUMMARY);
-        m_validationErrorCount = findings.Errors();
-        m_validationWarningCount = findings.Warnings();
-        m_validationSummaryReport = std::move(report);
-        m_rigorouslyValidated = true;
+    ClearMessages();
+    if (aOut == nullptr || m_parts->header == nullptr) {
+        m_errorMessage = "ERROR: There is nothing to write, or nothing to write to.";
+        return false;
     }
-    aErrors = m_validationErrorCount;
-    aWarnings = m_validationWarningCount;
-    return aErrors == 0;
+    NITFFieldSegment::Document out([aOut](std::string_view aPiece) {
+        return std::fwrite(aPiece.data(), 1, aPiece.size(), aOut) == aPiece.size();
+    });
+    AppendDocument(out, *m_parts, GetFormatVersion());
+    if (!out.Finish()) {
+        m_errorMessage = "ERROR: The document cannot be written, or the file changed while it was read.";
+        return false;
+    }
+    return true;
+}
+
+void ImageSupportDataNITF::SerializeImageSegments(std::ostream& aOut) const
+{
+    WriteGroups(aOut, *m_parts, IsImage);
+}
+
+void ImageSupportDataNITF::SerializeVersionSpecificDataSegments(std::ostream& aOut) const
+{
+    WriteGroups(aOut, *m_parts, IsVersionSpecific);
+}
+
+const char* ImageSupportDataNITF::GetSerializedXMLMetadata(const char* aSegment, int aIndex)
+{
+    const NITFCnst::DataSegmentType kind = NITFStdDataSegment::GetDataSegmentCode(aSegment);
+    // A negative number becomes one that no segment has.
+    NITFFieldSegment* const segment = AskedSegment(kind, static_cast<std::size_t>(aIndex));
+    const bool isHeader = kind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER;
+    return segment == nullptr ? nullptr : segment->SerializeDataSegment(isHeader ? HEADER_INDENT : SEGMENT_INDENT);
+}
+
+const char* ImageSupportDataNITF::GetVersionSpecificSerializedXMLMetadata(const char* aSegment, int aIndex)
+{
+    const bool isSpecific = IsVersionSpecific(NITFStdDataSegment::GetDataSegmentCode(aSegment));
+    return GetSerializedXMLMetadata(isSpecific ? aSegment : "", aIndex);
 }
 
 }  // namespace ORMO::SensorModel::CSM

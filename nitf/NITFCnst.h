@@ -438,7 +438,7 @@ public:
     static constexpr bool INCLUDE_OVERFLOW_TRES = true;
     /// Whether the first three bytes of ONAME in a NITF 2.0 file header are taken as the background colour.
     static constexpr bool MODIFY_NITF_FILE_HEADER_FIELD_FBKGC = true;
-    /// Name kept as hosts know it.
+    /// Whether the XML of headers leaves out fields that are not editable. Name kept as hosts know it.
     static constexpr bool OUTPUT_EDIABLE_NITF_ATTR = false;
     static constexpr bool OUTPUT_GRAPHIC_METADATA = true;
     /// Whether corners that CSCRNA gives as predicted, not measured, are good enough for an extent.

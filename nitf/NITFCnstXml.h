@@ -15,6 +15,7 @@ public:
     static constexpr const char* XML_ELEMENT_NITF = "NITF";
     static constexpr const char* XML_ELEMENT_NITF_VALIDATION_SUMMARY = "NITFValidationSummary";
     static constexpr const char* XML_ELEMENT_SUMMARY = "Summary";
+    static constexpr const char* XML_SCHEMA_BASE = "http://ormo.example/schemas";
     static constexpr const char* XML_SCHEMA_FILE_ISD = "/raster/ImageSupportDataNITF.xsd";
     static constexpr const char* XML_SCHEMA_FILE_VALIDATION_SUMMARY = "/raster/ValidationSummaryNITF.xsd";
     static constexpr const char* XML_VERSION_VALIDATION_SUMMARY = "1.0";
@@ -113,6 +114,7 @@ public:
     static constexpr const char* XML_ATTR_SIZE = "size";
     static constexpr const char* XML_ATTR_TYPE = "type";
     static constexpr const char* XML_ATTR_EDITABLE = "editable";
+    static constexpr const char* XML_ATTR_LONG_NAME = "longName";
     static constexpr const char* XML_ATTR_TAG = "tag";
     static constexpr const char* XML_ATTR_LENGTH = "length";
     static constexpr const char* XML_ATTR_CLASSIFICATION = "classification";

@@ -109,7 +109,7 @@ std::string NITFDataSegment::DataFaultText() const
     return {};
 }
 
-void NITFDataSegment::AppendDataElements(std::string&) const {}
+void NITFDataSegment::AppendDataElements(Document&) const {}
 void NITFDataSegment::AppendElementsAfterTREs(std::string&) const {}
 
 std::string_view NITFDataSegment::FieldLeftOut() const noexcept
@@ -162,55 +162,62 @@ bool NITFDataSegment::GetData(const char*& aData, std::size_t& aLength, std::str
     return bytes != nullptr;
 }
 
-void NITFDataSegment::AppendDataElement(const char* aElement, std::string& aXml) const
+void NITFDataSegment::AppendDataElement(const char* aElement, Document& aOut) const
 {
+    // Data of one piece are read once; of more, the first look finds out how they can be written.
+    std::string whole;
     bool text = true;
-    const std::size_t before = aXml.size();
     const bool read = m_data->ForEachPiece([&](std::string_view aPiece) {
         text = text && Detail::IsXmlText(aPiece);
+        if (aPiece.size() == m_data->Size()) {
+            whole = aPiece;
+        }
         return true;
     });
-    aXml += Inside().layout->words->indent;
-    aXml += '<';
-    aXml += aElement;
-    Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_BASE64_ENCODED, text ? "F" : "T", aXml);
-    aXml += '>';
-    const bool complete = read && m_data->ForEachPiece([&](std::string_view aPiece) {
+    if (!read) {
+        return;
+    }
+    const Detail::XmlOut::Mark before = aOut.Now();
+    std::string& xml = aOut.Text();
+    xml.append(Inside().layout->words->indent).append("<").append(aElement);
+    Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_BASE64_ENCODED, text ? "F" : "T", xml);
+    xml += '>';
+    const auto append = [&](std::string_view aPiece) {
         // The file may change between the two looks at it; what is written stays well-formed.
         const bool same = !text || Detail::IsXmlText(aPiece);
         if (same && text) {
-            Detail::AppendXmlText(aPiece, aXml);
+            Detail::AppendXmlText(aPiece, xml);
         } else if (same) {
-            Util::CSMUtilString::AppendBase64(aPiece, aXml);
+            Util::CSMUtilString::AppendBase64(aPiece, xml);
         }
+        aOut.Pass();
         return same;
-    });
-    if (!complete) {
-        aXml.resize(before);
+    };
+    if (whole.empty() ? !m_data->ForEachPiece(append) : !append(whole)) {
+        aOut.TakeBack(before);
         return;
     }
-    aXml += "</";
-    aXml += aElement;
-    aXml += ">\n";
+    xml.append("</").append(aElement).append(">\n");
 }
 
-std::string NITFDataSegment::Xml(const std::string& aIndent, int aIndex) const
+void NITFDataSegment::AppendElement(Document& aOut, std::string_view aIndent, int aIndex) const
 {
     const char* const element = Inside().layout->Owner();
-    std::string xml = aIndent + "<" + element;
+    std::string& xml = aOut.Text();
+    xml.append(aIndent).append("<").append(element);
     Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_INDEX, std::to_string(aIndex), xml);
     xml += ">\n";
     AppendFieldElements(xml, FieldLeftOut());
-    AppendDataElements(xml);
-    AppendTREElements(xml);
+    AppendDataElements(aOut);
+    AppendTREElements(aOut);
     AppendElementsAfterTREs(xml);
-    xml += aIndent + "</" + element + ">\n";
-    return xml;
+    xml.append(aIndent).append("</").append(element).append(">\n");
+    aOut.Pass();
 }
 
 const char* NITFDataSegment::SerializeDataSegment(const char* aIndent)
 {
-    m_xml = Xml(aIndent == nullptr ? "" : aIndent, m_number);
+    m_xml = ElementText(aIndent, m_number);
     return m_xml.c_str();
 }
 
@@ -219,7 +226,7 @@ bool NITFDataSegment::Serialize(char** aXml, int aIndex, std::size_t* aLength) c
     if (aXml == nullptr) {
         return false;
     }
-    const std::string xml = Xml("", aIndex);
+    const std::string xml = ElementText("", aIndex);
     if (aLength != nullptr) {
         *aLength = xml.size();
     }

@@ -29,6 +29,7 @@ public:
 
     /// The element of the segment with its fields, its data and its TREs. Data that cannot be had are left out.
     const char* SerializeDataSegment(const char* aIndent) override;
+    void AppendElement(Document& aOut, std::string_view aIndent, int aIndex) const override;
     /// A new text with that element; the caller frees it with CSMUtilString::DeleteCString. The length goes to
     /// `aLength` when that is given.
     bool Serialize(char** aXml, int aIndex, std::size_t* aLength) const;
@@ -47,7 +48,7 @@ protected:
     /// What stands before the reason when the data cannot be had; empty for nothing.
     virtual std::string DataFaultText() const;
     /// The elements between the fields and the TREs.
-    virtual void AppendDataElements(std::string& aXml) const;
+    virtual void AppendDataElements(Document& aOut) const;
     /// The elements behind the TREs.
     virtual void AppendElementsAfterTREs(std::string& aXml) const;
     /// The field whose element AppendDataElements writes in another form; empty for none.
@@ -66,12 +67,10 @@ protected:
     /// The file that the data stand in; null for a segment without one.
     const std::shared_ptr<const Detail::ByteSource>& DataSource() const noexcept;
     /// An element with the data as text or, when XML cannot carry them, in base64.
-    void AppendDataElement(const char* aElement, std::string& aXml) const;
+    void AppendDataElement(const char* aElement, Document& aOut) const;
 
 private:
     struct Data;
-
-    std::string Xml(const std::string& aIndent, int aIndex) const;
 
     int m_number = -1;
     std::shared_ptr<const Data> m_data;  // copies of a segment look at the same data

@@ -25,11 +25,12 @@ public:
     using FieldLengths = std::map<std::string, int>;
     using FieldTypes = std::map<std::string, NITFCnst::FieldType>;
 
-    // What only the library's own sources can look into: a version of a kind of header, what a header is made from, and
-    // what was read of it.
+    // What only the library's own sources can look into: a version of a kind of header, what a header is made from,
+    // what was read of it, and what its XML is written to.
     struct Layout;
     struct Input;
     struct Parts;
+    class Document;
 
     ~NITFFieldSegment() override;
 
@@ -99,6 +100,8 @@ public:
     const RawNITFMetadataStdDataSegment* GetAllMetadata() const;
     /// For the library's own sources.
     const Parts& Inside() const noexcept { return *m_parts; }
+    /// For the library's own sources: appends the XML element of the segment with its fields, its data and its TREs.
+    virtual void AppendElement(Document& aOut, std::string_view aIndent, int aIndex) const = 0;
 
 protected:
     /// Reads the fields of a raw header. Raises ImageSupportDataConstructionException with all that was wrong.
@@ -134,7 +137,9 @@ protected:
     std::uint64_t NumberOf(std::string_view aName) const noexcept;
     /// Writes one element per field, that of `aLeftOut` left out. Answers the number of fields.
     std::size_t AppendFieldElements(std::string& aXml, std::string_view aLeftOut = {}) const;
-    void AppendTREElements(std::string& aXml) const;
+    void AppendTREElements(Document& aOut) const;
+    /// The element as a text of its own; a null indent counts as none.
+    std::string ElementText(const char* aIndent, int aIndex) const;
     /// Takes the TRE over; false for null.
     bool AddTRE(TRE* aTre);
 

@@ -16,20 +16,38 @@ std::size_t NITFFieldSegment::AppendFieldElements(std::string& aXml, std::string
     return m_parts->record.AppendXml(words.naming, words.indent, words.element, aXml, aLeftOut);
 }
 
-void NITFFieldSegment::AppendTREElements(std::string& aXml) const
+void NITFFieldSegment::AppendTREElements(Document& aOut) const
 {
-    const std::size_t total = QueriedTREs().Size() + GetOverflowTREStore().Size();
+    std::vector<const TREStore*> stores{&QueriedTREs()};
+    if constexpr (NITFCnst::INCLUDE_OVERFLOW_TRES) {
+        stores.push_back(&GetOverflowTREStore());
+    }
+    std::size_t total = 0;
+    for (const TREStore* const store : stores) {
+        total += store->Size();
+    }
     if (total == 0) {
         return;
     }
-    aXml += "    <TREs total=\"" + std::to_string(total) + "\">\n";
+    std::string& xml = aOut.Text();
+    xml += "    <TREs";
+    Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_TOTAL, total, xml);
+    xml += ">\n";
     int index = 0;
-    for (const TREStore* const store : {&QueriedTREs(), &GetOverflowTREStore()}) {
+    for (const TREStore* const store : stores) {
         for (const TRE* const tre : store->InOrder()) {
-            tre->AppendXml(aXml, GetClassification(), index++);
+            tre->AppendXml(xml, GetClassification(), index++);
+            aOut.Pass();
         }
     }
-    aXml += "    </TREs>\n";
+    xml += "    </TREs>\n";
+}
+
+std::string NITFFieldSegment::ElementText(const char* aIndent, int aIndex) const
+{
+    Document out;
+    AppendElement(out, aIndent == nullptr ? "" : aIndent, aIndex);
+    return std::move(out.Text());
 }
 
 const RawNITFMetadataStdDataSegment* NITFFieldSegment::GetAllMetadata() const

@@ -96,19 +96,30 @@ bool Output::Commit(std::string& aReason)
     return true;
 }
 
-int WriteText(std::string_view aText, const std::string& aTarget, const std::string& aInput)
+int WriteWith(const std::string& aTarget, const std::string& aInput, const std::function<bool(std::FILE*)>& aWrite)
 {
     Output output;
     std::string reason;
     if (output.Open(aTarget, aInput, reason)) {
         errno = 0;
-        std::fwrite(aText.data(), 1, aText.size(), output.Stream());
+        // A full disk is the target's problem, whatever the writer says of it.
+        const bool written = aWrite(output.Stream());
+        if (!written && std::ferror(output.Stream()) == 0) {
+            return EXIT_WRONG_USE;
+        }
         if (output.Commit(reason)) {
             return EXIT_DONE;
         }
     }
     PrintProblem(aTarget.empty() ? "standard output" : aTarget, reason);
     return EXIT_WRONG_USE;
+}
+
+int WriteText(std::string_view aText, const std::string& aTarget, const std::string& aInput)
+{
+    return WriteWith(aTarget, aInput, [aText](std::FILE* aOut) {
+        return std::fwrite(aText.data(), 1, aText.size(), aOut) == aText.size();
+    });
 }
 
 }  // namespace OrmoNitf

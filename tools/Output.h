@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -28,6 +29,10 @@ private:
     std::string m_target;
     std::string m_temporary;  ///< empty for standard output
 };
+
+/// Lets `aWrite` write to the named file, or to standard output; it answers false when it has told of a problem of its
+/// own. Answers the exit code; problems of the target go to standard error.
+int WriteWith(const std::string& aTarget, const std::string& aInput, const std::function<bool(std::FILE*)>& aWrite);
 
 /// Writes all of a text to the named file, or to standard output. Answers the exit code; problems go to standard error.
 int WriteText(std::string_view aText, const std::string& aTarget, const std::string& aInput);

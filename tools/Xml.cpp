@@ -26,12 +26,13 @@ int Xml(const std::string& aFile, bool aImagesOnly, const std::string& aOut)
     if (isd == nullptr) {
         return EXIT_WRONG_USE;
     }
-    const char* const document = isd->Serialize();
-    if (document == nullptr) {
-        PrintProblem(aFile, "ERROR: The document cannot be written.");
-        return EXIT_FILE_HAS_ERRORS;
-    }
-    return WriteText(document, aOut, aFile);
+    return WriteWith(aOut, aFile, [&](std::FILE* aStream) {
+        const bool written = isd->WriteXml(aStream);
+        if (!written && std::ferror(aStream) == 0) {
+            PrintProblem(aFile, isd->GetErrorMessage());
+        }
+        return written;
+    });
 }
 
 Action DeclareXml(CLI::App& aApp)

@@ -162,7 +162,7 @@ bool DesFieldSet::GetFieldAt(std::size_t aIndex, std::string& aName, const char*
 
 void DesFieldSet::AppendXml(std::string& aXml, const char* aIndent, const char* aElement) const
 {
-    m_parts->fields.AppendXml(Detail::FieldNaming::PositionAndTag, aIndent, aElement, aXml);
+    m_parts->fields.AppendXml(Detail::FieldNaming::PositionTagAndLongName, aIndent, aElement, aXml);
 }
 
 const std::vector<const char*>* DesFieldSet::FieldNames() const

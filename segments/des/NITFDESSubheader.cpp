@@ -264,7 +264,7 @@ std::string_view NITFDESSubheader::FieldLeftOut() const noexcept
     return m_subheader == nullptr ? "" : NITFCnst::NITF_DES_FIELD_DESSHF;
 }
 
-void NITFDESSubheader::AppendDataElements(std::string& aXml) const
+void NITFDESSubheader::AppendDataElements(Document& aOut) const
 {
     const Detail::FieldStore& fields = Inside().record.Store();
     const Detail::SegmentWords& words = *Inside().layout->words;
@@ -272,13 +272,14 @@ void NITFDESSubheader::AppendDataElements(std::string& aXml) const
     if (m_subheader != nullptr && entry != nullptr) {
         const std::string indent = words.indent;
         const char* const element = NITFCnst::XML_ELEMENT_DES_CMPLX_FIELD;
-        aXml += indent + '<' + element;
-        Detail::AppendFieldAttributes(fields, *entry, words.naming, fields.Entries().size(), aXml);
-        aXml += ">\n";
-        m_subheader->AppendXml(aXml, (indent + "  ").c_str(), NITFCnst::XML_ELEMENT_DESSHF_FIELD);
-        aXml += indent + "</" + element + ">\n";
+        std::string& xml = aOut.Text();
+        xml += indent + '<' + element;
+        Detail::AppendFieldAttributes(fields, *entry, words.naming, fields.Entries().size(), xml);
+        xml += ">\n";
+        m_subheader->AppendXml(xml, (indent + "  ").c_str(), NITFCnst::XML_ELEMENT_DESSHF_FIELD);
+        xml += indent + "</" + element + ">\n";
     }
-    AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aXml);
+    AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aOut);
 }
 
 namespace {

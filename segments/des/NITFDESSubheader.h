@@ -67,7 +67,7 @@ protected:
     const char* TreRefusal() const noexcept override;
     const TREStore& QueriedTREs() const noexcept override { return m_carried; }
     bool GetDataField(std::string_view aName, const char*& aValue, std::size_t& aLength) const override;
-    void AppendDataElements(std::string& aXml) const override;
+    void AppendDataElements(Document& aOut) const override;
     std::string_view FieldLeftOut() const noexcept override;
 
 private:

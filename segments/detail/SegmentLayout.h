@@ -3,6 +3,7 @@
 #include "fields/ByteSource.h"
 #include "fields/FieldRecord.h"
 #include "fields/FindingList.h"
+#include "fields/Xml.h"
 #include "foundation/detail/Lazy.h"
 #include "segments/NITFFieldSegment.h"
 #include "segments/detail/SegmentKind.h"
@@ -59,6 +60,13 @@ struct NITFFieldSegment::Input
 
     Detail::FindingList own;   ///< for a header that is read by itself
     Detail::FindingMark mark;  ///< what this header's reading adds stands behind it
+};
+
+/// What the XML of a header is written to.
+class NITFFieldSegment::Document : public Detail::XmlOut
+{
+public:
+    using XmlOut::XmlOut;
 };
 
 /// What was read of one header, and the lists and maps over it that are made when somebody asks for them.

@@ -93,7 +93,7 @@ inline constexpr SegmentWords TEXT_WORDS{
     .kindWord = "text",
     .reader = "NITFTextSubheader::InitNITFTextSegment",
     .numberFault = "ERROR: Input text segment number out of valid range.",
-    .naming = FieldNaming::PositionAndTag};
+    .naming = FieldNaming::PositionTagAndLongName};
 
 inline constexpr SegmentWords GRAPHIC_WORDS{
     .element = NITFCnst::XML_ELEMENT_GS_FIELD,
@@ -112,7 +112,7 @@ inline constexpr SegmentWords GRAPHIC_WORDS{
     .kindWord = "graphic",
     .reader = "NITF21GraphicSubheader::InitNITF21GraphicSubheader",
     .numberFault = "ERROR: Input graphic segment number out of valid range.",
-    .naming = FieldNaming::PositionAndTag};
+    .naming = FieldNaming::PositionTagAndLongName};
 
 inline constexpr SegmentWords SYMBOL_WORDS{
     .element = NITFCnst::XML_ELEMENT_SS_FIELD,
@@ -131,7 +131,7 @@ inline constexpr SegmentWords SYMBOL_WORDS{
     .kindWord = "symbol",
     .reader = "NITF20SymbolSubheader::InitNITF20SymbolSubheader",
     .numberFault = "ERROR: Input symbol segment number out of valid range.",
-    .naming = FieldNaming::PositionAndTag};
+    .naming = FieldNaming::PositionTagAndLongName};
 
 inline constexpr SegmentWords LABEL_WORDS{
     .element = NITFCnst::XML_ELEMENT_LS_FIELD,
@@ -150,7 +150,7 @@ inline constexpr SegmentWords LABEL_WORDS{
     .kindWord = "label",
     .reader = "NITF20LabelSubheader::InitNITF20LabelSubheader",
     .numberFault = "ERROR: Input label segment number out of valid range.",
-    .naming = FieldNaming::PositionAndTag};
+    .naming = FieldNaming::PositionTagAndLongName};
 
 inline constexpr SegmentWords DES_WORDS{
     .element = NITFCnst::XML_ELEMENT_DES_FIELD,
@@ -169,7 +169,7 @@ inline constexpr SegmentWords DES_WORDS{
     .kindWord = "DES",
     .reader = "NITFDESSubheader::InitNITFDES",
     .numberFault = "ERROR: Input DES segment number out of valid range.",
-    .naming = FieldNaming::PositionAndTag};
+    .naming = FieldNaming::PositionTagAndLongName};
 
 inline constexpr SegmentWords RES_WORDS{
     .element = NITFCnst::XML_ELEMENT_RES_FIELD,
@@ -188,6 +188,6 @@ inline constexpr SegmentWords RES_WORDS{
     .kindWord = "RES",
     .reader = "NITFRESSubheader::InitNITFRES",
     .numberFault = "ERROR: Input RES segment number out of valid range.",
-    .naming = FieldNaming::PositionAndTag};
+    .naming = FieldNaming::PositionTagAndLongName};
 
 }  // namespace ORMO::SensorModel::CSM::Detail

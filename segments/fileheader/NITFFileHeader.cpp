@@ -397,18 +397,19 @@ char* NITFFileHeader::CloneNITFFileHeader(const char* aBytes, std::size_t aLengt
     return copy;
 }
 
-std::string NITFFileHeader::Xml(const std::string& aIndent) const
+void NITFFileHeader::AppendElement(Document& aOut, std::string_view aIndent, int /*aIndex*/) const
 {
-    std::string xml = aIndent + "<" + NITFCnst::XML_ELEMENT_NITF_FILE_HEADER + ">\n";
+    constexpr const char* ELEMENT = NITFCnst::XML_ELEMENT_NITF_FILE_HEADER;
+    std::string& xml = aOut.Text();
+    xml.append(aIndent).append("<").append(ELEMENT).append(">\n");
     AppendFieldElements(xml);
-    AppendTREElements(xml);
-    xml += aIndent + "</" + NITFCnst::XML_ELEMENT_NITF_FILE_HEADER + ">\n";
-    return xml;
+    AppendTREElements(aOut);
+    xml.append(aIndent).append("</").append(ELEMENT).append(">\n");
 }
 
 const char* NITFFileHeader::SerializeDataSegment(const char* aIndent)
 {
-    m_xml = Xml(aIndent == nullptr ? "" : aIndent);
+    m_xml = ElementText(aIndent, 0);
     return m_xml.c_str();
 }
 
@@ -418,7 +419,7 @@ bool NITFFileHeader::Serialize(char** aXml, std::size_t& aLength) const
     if (aXml == nullptr) {
         return false;
     }
-    const std::string xml = Xml("");
+    const std::string xml = ElementText("", 0);
     aLength = xml.size();
     return Util::CSMUtilString::Copy(xml.c_str(), aXml);
 }

@@ -92,6 +92,7 @@ public:
     bool CloneRawFileHeader(const char* aBytes, std::size_t aLength);
 
     const char* SerializeDataSegment(const char* aIndent) override;
+    void AppendElement(Document& aOut, std::string_view aIndent, int aIndex) const override;
     /// A new text with the XML element; the caller frees it with CSMUtilString::DeleteCString.
     bool Serialize(char** aXml, std::size_t& aLength) const;
 
@@ -112,7 +113,6 @@ protected:
                            bool aStreaming, bool aSpecificOnly);
 
 private:
-    std::string Xml(const std::string& aIndent) const;
     std::size_t CountOf(const char* aType) const noexcept;
     const NITFSegmentLengths* LengthsOf(const char* aType) const noexcept;
     bool CopyLengths(const char* aType, std::vector<std::uint64_t>& aData, std::vector<std::uint32_t>& aHeaders) const;

@@ -18,9 +18,9 @@ bool NITFRESSubheader::GetDataField(std::string_view aName, const char*& aValue,
     return aName == NITFCnst::NITF_RES_FIELD_RESDATA && GetData(aValue, aLength, nullptr);
 }
 
-void NITFRESSubheader::AppendDataElements(std::string& aXml) const
+void NITFRESSubheader::AppendDataElements(Document& aOut) const
 {
-    AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aXml);
+    AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aOut);
 }
 
 }  // namespace ORMO::SensorModel::CSM

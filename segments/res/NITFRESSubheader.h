@@ -29,7 +29,7 @@ protected:
     NITFRESSubheader(const NITFRESSubheader& aOther);
 
     using NITFDataSegment::operator=;
-    void AppendDataElements(std::string& aXml) const override;
+    void AppendDataElements(Document& aOut) const override;
     bool GetDataField(std::string_view aName, const char*& aValue, std::size_t& aLength) const override;
 };
 

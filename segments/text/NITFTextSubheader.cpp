@@ -29,9 +29,9 @@ unsigned long NITFTextSubheader::GetOverflowTextExtendedSubheaderData() const no
     return static_cast<unsigned long>(NumberOf(NITFCnst::NITF_TS_FIELD_TXSOFL));
 }
 
-void NITFTextSubheader::AppendDataElements(std::string& aXml) const
+void NITFTextSubheader::AppendDataElements(Document& aOut) const
 {
-    AppendDataElement(NITFCnst::XML_ELEMENT_TS_DATA, aXml);
+    AppendDataElement(NITFCnst::XML_ELEMENT_TS_DATA, aOut);
 }
 
 void Detail::CheckTextSegment(const NITFFieldSegment& aSegment, FindingList& aFindings)

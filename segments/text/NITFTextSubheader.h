@@ -35,7 +35,7 @@ protected:
 
     using NITFDataSegment::operator=;
     std::string DataFaultText() const override;
-    void AppendDataElements(std::string& aXml) const override;
+    void AppendDataElements(Document& aOut) const override;
 };
 
 }  // namespace ORMO::SensorModel::CSM
