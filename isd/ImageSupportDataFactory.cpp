@@ -13,6 +13,7 @@
 #include "raster/GDALNITFFileReader.h"
 #include "raster/GDALOSDEFileReader.h"
 
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <typeinfo>
@@ -110,13 +111,13 @@ void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut,
     if (aOut == nullptr) {
         RefuseArguments();
     }
+    *aOut = nullptr;
     if (IsdCompanion::Secret().isdType == nullptr && IsdCompanion::Maker() == nullptr) {
         // Nobody else is asked, so the file that is identified is the one that is read.
         ImageSupportDataNITF::Request request = ImageSupportDataNITF::Request::Open(aPath);
         request.imageSegmentsOnly = !aAllSegments;
         request.specificOnly = aFlag2 || NITFCnst::CREATE_SPECIFIC_TRE_ONLY;
         if (request.version != NITFCnst::NITF_VERSION_NUMBER_UNKNOWN) {
-            *aOut = nullptr;
             CreateNitf(request, aOut);
             return;
         }
@@ -133,7 +134,6 @@ void ImageSupportDataFactory::Create(const char* aPath, ImageSupportData** aOut,
     if (!isNitf && !isOsde && identity.type != SupportedISD::ISD_TYPE_TFRD) {
         RefuseArguments();
     }
-    *aOut = nullptr;
     const IsdCompanion* const companion = isOsde ? nullptr : IsdCompanion::Maker();
     if (companion != nullptr) {
         *aOut = CreateByCompanion(*companion, aPath, aAllSegments, aFlag2, identity);
@@ -170,9 +170,11 @@ void ImageSupportDataFactory::Salvage(const char* aPath, ImageSupportData** aOut
 
 void ImageSupportDataFactory::CreateNitf(ImageSupportDataNITF::Request& aRequest, ImageSupportData** aOut)
 {
-    ImageSupportDataNITF* isd = nullptr;
+    std::unique_ptr<ImageSupportDataNITF> isd;
     try {
-        ImageSupportDataNITFFactory::Create(aRequest, &isd);
+        ImageSupportDataNITF* made = nullptr;
+        ImageSupportDataNITFFactory::Create(aRequest, &made);
+        isd.reset(made);
     } catch (const std::bad_alloc&) {
         Messages().SetError("ERROR: System out of memory.");
         throw;
@@ -186,7 +188,7 @@ void ImageSupportDataFactory::CreateNitf(ImageSupportDataNITF::Request& aRequest
     if (isd == nullptr) {
         FailConstruction(ImageSupportDataNITFFactory::GetErrorMessage());
     }
-    *aOut = isd;
+    *aOut = isd.release();
 }
 
 void ImageSupportDataFactory::Create(const WrapperCSMISD* aIsd, ImageSupportData** aOut, bool aFlag)
@@ -201,18 +203,20 @@ void ImageSupportDataFactory::Create(const WrapperCSMISD* aIsd, ImageSupportData
             "ImageSupportData factory.");
         throw UnsupportedImageSupportDataException(Messages().error.c_str(), "ImageSupportDataFactory::Create");
     }
-    ImageSupportDataNITF* isd = nullptr;
+    std::unique_ptr<ImageSupportDataNITF> isd;
     try {
-        ImageSupportDataNITFFactory::Create(aIsd, &isd, aFlag, -1);
+        ImageSupportDataNITF* made = nullptr;
+        ImageSupportDataNITFFactory::Create(aIsd, &made, aFlag, -1);
+        isd.reset(made);
     } catch (const CSMException& exception) {
         Messages().findings = ImageSupportDataNITFFactory::GetFindings();
         Messages().SetError(exception.GetAdditionalMessage());
         throw;
     }
-    *aOut = isd;
     Messages().findings = ImageSupportDataNITFFactory::GetFindings();
     Messages().SetError(ImageSupportDataNITFFactory::GetErrorMessage());
     Messages().SetWarning(ImageSupportDataNITFFactory::GetWarningMessage());
+    *aOut = isd.release();
 }
 
 void ImageSupportDataFactory::CreateISD(const char* aPath, ImageSupportData** aOut, bool aAllSegments, bool aFlag2,

@@ -117,12 +117,10 @@ bool NITFDrawnSegment::GetDrawnBounds(CGMDrawing::Bounds& aBounds) const
 
 std::string NITFDrawnSegment::MetafileElement(std::string_view aIndent) const
 {
-    char* text = nullptr;
-    if (m_metafile == nullptr || !m_metafile->Serialize(&text, std::string(aIndent).c_str())) {
-        return {};
+    std::string element;
+    if (m_metafile != nullptr) {
+        m_metafile->AppendXml(element, aIndent);
     }
-    std::string element = text;
-    NITFCGMMetaFile::DeleteCString(text);
     return element;
 }
 

@@ -110,13 +110,11 @@ NITFStdDataSegmentInfos& NITFStdDataSegmentInfos::operator=(const NITFStdDataSeg
 bool NITFStdDataSegmentInfos::Build(NITFCnst::Version aVersion, std::uint64_t aHeaderLength, std::uint64_t aFileLength,
                                     const std::vector<NITFSegmentLengths>& aKinds, std::string& aErrors)
 {
-    m_byKind.clear();
-    m_inFileOrder.clear();
+    Clear();
     std::uint64_t current = aHeaderLength;
     std::int32_t global = 0;
     const auto fail = [&](std::string_view aMessage) {
-        m_byKind.clear();
-        m_inFileOrder.clear();
+        Clear();
         Detail::AppendBlock(aErrors, aMessage);
         return false;
     };
@@ -152,22 +150,30 @@ bool NITFStdDataSegmentInfos::Build(NITFCnst::Version aVersion, std::uint64_t aH
             m_inFileOrder.push_back(info.get());
             infos.push_back(std::move(info));
         }
-        const char* const name = NITFStdDataSegment::GetDataSegmentName(infos.front()->GetDataSegmentType());
-        m_byKind[name] = std::move(infos);
+        m_byKind[static_cast<std::size_t>(infos.front()->GetDataSegmentType())] = std::move(infos);
     }
     m_end = current;
     return true;
 }
 
-const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(const char* aKindName) const
+void NITFStdDataSegmentInfos::Clear() noexcept
 {
-    const auto it = m_byKind.find(std::string(Detail::Trimmed(aKindName)));
-    return it == m_byKind.end() ? nullptr : &it->second;
+    for (Infos& infos : m_byKind) {
+        infos.clear();
+    }
+    m_inFileOrder.clear();
 }
 
-const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(NITFCnst::DataSegmentType aKind) const
+const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(const char* aKindName) const noexcept
 {
-    return Get(NITFStdDataSegment::GetDataSegmentName(aKind));
+    return Get(NITFStdDataSegment::GetDataSegmentCode(aKindName));
+}
+
+const NITFStdDataSegmentInfos::Infos* NITFStdDataSegmentInfos::Get(NITFCnst::DataSegmentType aKind) const noexcept
+{
+    // An unknown kind becomes a place behind the last one.
+    const auto place = static_cast<std::size_t>(aKind);
+    return place >= KINDS || m_byKind[place].empty() ? nullptr : &m_byKind[place];
 }
 
 }  // namespace ORMO::SensorModel::CSM

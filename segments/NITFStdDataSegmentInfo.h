@@ -3,8 +3,9 @@
 #include "../foundation/Export.h"
 #include "../nitf/NITFCnst.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -83,15 +84,19 @@ public:
                const std::vector<NITFSegmentLengths>& aKinds, std::string& aErrors);
 
     /// The segments of a kind by its name ("ImageSegment"), in file order; null when there are none.
-    const Infos* Get(const char* aKindName) const;
-    const Infos* Get(NITFCnst::DataSegmentType aKind) const;
+    const Infos* Get(const char* aKindName) const noexcept;
+    const Infos* Get(NITFCnst::DataSegmentType aKind) const noexcept;
     /// All segments in file order.
     const std::vector<const NITFStdDataSegmentInfo*>& InFileOrder() const noexcept { return m_inFileOrder; }
     /// The byte behind the last segment; the header length when there are none.
     std::uint64_t GetEnd() const noexcept { return m_end; }
 
 private:
-    std::map<std::string, Infos> m_byKind;
+    static constexpr std::size_t KINDS = NITFCnst::DATA_SEGMENT_TYPE_TEXT + 1;
+
+    void Clear() noexcept;
+
+    std::array<Infos, KINDS> m_byKind;  // by NITFCnst::DataSegmentType
     std::vector<const NITFStdDataSegmentInfo*> m_inFileOrder;
     std::uint64_t m_end = 0;
 };

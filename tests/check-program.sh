@@ -234,6 +234,13 @@ check_documents() {
     if tail -n +2 "$work/info" | grep -qE '^.{101}'; then fail "info of $file has lines of more than 100 columns"; fi
 }
 
+for document in isd validation; do
+    expect 0 "$tool" schema "$document" -o "$work/$document.xsd"
+    cmp -s "$work/$document.xsd" "$source_dir"/schemas/raster/"$([ $document = isd ] && echo Image || echo Valid)"*.xsd ||
+        fail "schema $document is another one"
+done
+mapfile -t files < <(find "$corpus" -type f -size -60M 2>/dev/null | sort)
+python3 "$source_dir/tests/compare-xml-json.py" "$tool" "$sample" "${files[@]}" || fail "XML and JSON disagree"
 check_documents "$sample"
 if [ -d "$corpus" ]; then
     count=0

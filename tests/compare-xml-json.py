@@ -10,6 +10,7 @@ import sys
 import xml.etree.ElementTree as ElementTree
 
 SPACE = "{ORMO}"
+OVERFLOW = ("TRE_OVERFLOW", "Registered Extensions", "Controlled Extensions")
 BLANKS = " \t\n\r\v\f"
 
 
@@ -44,6 +45,8 @@ def compare_tres(place, xml_segment, json_segment, problems):
     tres = [] if group is None else list(group)
     if group is not None and int(group.get("total")) != len(tres):
         problems.append(f"{place}: total of TREs")
+    if dict(json_segment["fields"]).get("DESID", "").strip() in OVERFLOW and not json_segment["tres"]:
+        return  # in JSON they stand at their owner only
     if len(tres) != len(json_segment["tres"]):
         problems.append(f"{place}: {len(tres)} TREs in XML, {len(json_segment['tres'])} in JSON")
         return
@@ -111,7 +114,7 @@ def main():
     program, files = sys.argv[1], sys.argv[2:]
     failed = compared = 0
     for file in files:
-        problems = compare(program, file)
+        problems = compare(program, file) if not file.endswith(".md") else None
         if problems is None:
             continue
         compared += 1

@@ -230,29 +230,33 @@ bool NITFCGMMetaFile::Serialize(char** aOut, const char* aIndent) const
     if (aOut == nullptr) {
         return false;
     }
-    const std::string indent = aIndent == nullptr ? "" : aIndent;
+    std::string xml;
+    AppendXml(xml, aIndent == nullptr ? "" : aIndent);
+    return Detail::HandOut(xml, aOut);
+}
+
+void NITFCGMMetaFile::AppendXml(std::string& aXml, std::string_view aIndent) const
+{
     const std::string_view name = NITFCnst::XML_ELEMENT_CGM_METAFILE;
-    std::string xml = indent;
-    xml.append("<").append(name);
+    aXml.append(aIndent).append("<").append(name);
     if (Detail::IsXmlText(m_contents->clearText)) {
-        xml += ">\n";
+        aXml += ">\n";
         for (std::size_t i = 0; i != GetNumOfClearTextLines(); ++i) {
-            xml += indent + "  ";
-            Detail::AppendXmlText(GetClearTextLine(i), xml);
-            xml += '\n';
+            aXml.append(aIndent).append("  ");
+            Detail::AppendXmlText(GetClearTextLine(i), aXml);
+            aXml += '\n';
         }
-        xml += indent;
+        aXml += aIndent;
     } else {
         std::string lines;
         for (std::size_t i = 0; i != GetNumOfClearTextLines(); ++i) {
             lines.append(GetClearTextLine(i)).append("\n");
         }
-        Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_BASE64_ENCODED, "T", xml);
-        xml += '>';
-        Util::CSMUtilString::AppendBase64(lines, xml);
+        Detail::AppendXmlAttribute(NITFCnst::XML_ATTR_BASE64_ENCODED, "T", aXml);
+        aXml += '>';
+        Util::CSMUtilString::AppendBase64(lines, aXml);
     }
-    xml.append("</").append(name).append(">\n");
-    return Detail::HandOut(xml, aOut);
+    aXml.append("</").append(name).append(">\n");
 }
 
 void NITFCGMMetaFile::DeleteCString(char*& aText) noexcept

@@ -92,6 +92,8 @@ public:
     /// The clear text as an XML element, in a new text that the caller frees with DeleteCString. Clear text with bytes
     /// that XML cannot carry is written in base64.
     bool Serialize(char** aOut, const char* aIndent) const;
+    /// Appends the same element.
+    void AppendXml(std::string& aXml, std::string_view aIndent) const;
     static void DeleteCString(char*& aText) noexcept;
 
     /// A deep copy that the caller deletes; false for a null argument.

@@ -1,9 +1,12 @@
 #include "tests/memory/ShortMemory.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <limits>
 #include <new>
+
+#include <malloc.h>
 
 namespace {
 
@@ -12,6 +15,8 @@ constexpr std::size_t NEVER = std::numeric_limits<std::size_t>::max();
 std::atomic<std::size_t> theLeft{NEVER};  // allocations before the one that fails
 std::atomic<bool> theFailure{false};
 std::atomic<std::size_t> theLive{0};
+std::atomic<std::size_t> theBytes{0};
+std::atomic<std::size_t> thePeak{0};
 
 void* Allocate(std::size_t aSize) noexcept
 {
@@ -24,13 +29,20 @@ void* Allocate(std::size_t aSize) noexcept
         --theLeft;
     }
     void* const memory = std::malloc(aSize == 0 ? 1 : aSize);
-    theLive += memory == nullptr ? 0 : 1;
+    if (memory != nullptr) {
+        ++theLive;
+        theBytes += ::malloc_usable_size(memory);
+        thePeak = std::max(thePeak.load(), theBytes.load());
+    }
     return memory;
 }
 
 void Free(void* aMemory) noexcept
 {
-    theLive -= aMemory == nullptr ? 0 : 1;
+    if (aMemory != nullptr) {
+        --theLive;
+        theBytes -= ::malloc_usable_size(aMemory);
+    }
     std::free(aMemory);
 }
 
@@ -101,6 +113,16 @@ bool ShortMemory::HasFailed() noexcept
 std::size_t LiveBlocks() noexcept
 {
     return theLive;
+}
+
+PeakMemory::PeakMemory() noexcept : m_start(theBytes)
+{
+    thePeak = m_start;
+}
+
+std::size_t PeakMemory::Bytes() const noexcept
+{
+    return thePeak - m_start;
 }
 
 }  // namespace ORMO::SensorModel::CSM::Tests

@@ -20,6 +20,17 @@ public:
 /// Blocks of memory that are allocated now.
 std::size_t LiveBlocks() noexcept;
 
+/// How much more memory the program has held at once since one of these was made.
+class PeakMemory
+{
+public:
+    PeakMemory() noexcept;
+    std::size_t Bytes() const noexcept;
+
+private:
+    std::size_t m_start;
+};
+
 /// Calls `aAct` with memory that fails at the first allocation, then at the second, until it comes to its end without a
 /// failure. Before each, `aBefore` makes what it starts from; after each, `aAfter` is called with whether memory
 /// failed. Answers how often it did, or 0 when memory was lost.
