@@ -101,7 +101,9 @@ TEST_F(ImageSupportDataFactoryTest, PathsThatAreNoImageFileAreInvalidArguments)
     const std::string expected = std::string("invalid_argument ") + INVALID;
     for (const std::string& path : {File("empty", ""), File("short", "NITF02"), File("text", "Dear reader"), pipe,
                                     m_directory, m_directory + "/absent", std::string()}) {
+        m_isd = m_untouched;
         EXPECT_EQ(CreateOutcome(path, &m_isd), expected) << path;
+        EXPECT_EQ(m_isd, nullptr) << "what a host then releases is nothing";
         int version = 99;
         EXPECT_EQ(ImageSupportDataFactory::ISDType(path.c_str(), version, false), SupportedISD::ISD_TYPE_UNKNOWN);
         EXPECT_EQ(version, -1) << path;
@@ -109,7 +111,6 @@ TEST_F(ImageSupportDataFactoryTest, PathsThatAreNoImageFileAreInvalidArguments)
         EXPECT_FALSE(ImageSupportDataFactory::IsSupportedISDFile(path.c_str(), format)) << path;
         EXPECT_EQ(format, nullptr) << path;
     }
-    EXPECT_EQ(m_isd, m_untouched) << "a file that is not taken leaves the output alone";
 }
 
 TEST_F(ImageSupportDataFactoryTest, IdentificationAnswersReadableVersionsOnly)

@@ -176,7 +176,7 @@ TYPED_TEST(SubheaderTest, XmlIsWellFormedWhateverTheBytes)
     }
 }
 
-TYPED_TEST(SubheaderTest, XmlGivesPositionAndTagOfEachField)
+TYPED_TEST(SubheaderTest, XmlGivesPositionTagAndLongNameOfEachField)
 {
     NitfBuilder builder(TypeParam::format);
     TypeParam::Add(builder, "data");
@@ -186,7 +186,8 @@ TYPED_TEST(SubheaderTest, XmlGivesPositionAndTagOfEachField)
                 HasSubstr("    <" + std::string(NITFStdDataSegment::GetDataSegmentName(segment->GetDataSegmentType())) +
                           " index=\"0\">\n      <"));
     EXPECT_THAT(xml, HasSubstr("Field field=\"1\" name=\"" + builder.Segments().front()->type +
-                               "\" size=\"2\" type=\"R\" editable=\"F\">" + builder.Segments().front()->type + "</"));
+                               "\" size=\"2\" type=\"R\" editable=\"F\" longName=\"File Part Type [" +
+                               builder.Segments().front()->type + "]\">" + builder.Segments().front()->type + "</"));
     const std::string count = std::to_string(segment->GetNumOfFields());
     EXPECT_THAT(xml, HasSubstr(" field=\"" + count + "\" name=\""));
     EXPECT_THAT(xml, Not(HasSubstr("<TREs")));

@@ -335,8 +335,10 @@ TEST(DesTypesTest, XmlHasTheTypedFieldsInPlaceOfTheRawOne)
     const std::string xml = des->SerializeDataSegment("    ");
     EXPECT_EQ("", Tests::XmlFault(xml));
     EXPECT_THAT(xml,
-                HasSubstr("      <DESCmplxField field=\"21\" name=\"DESSHF\" size=\"283\" type=\"C\" editable=\"T\">\n"
-                          "        <DESSHFField field=\"1\" name=\"DESCRC\" size=\"5\" type=\"R\" editable=\"T\">12345"
+                HasSubstr("      <DESCmplxField field=\"21\" name=\"DESSHF\" size=\"283\" type=\"C\" editable=\"T\" "
+                          "longName=\"DES User-defined Subheader Fields\">\n"
+                          "        <DESSHFField field=\"1\" name=\"DESCRC\" size=\"5\" type=\"R\" editable=\"T\" "
+                          "longName=\"Cyclic Redundancy Check\">12345"
                           "</DESSHFField>\n        <DESSHFField field=\"2\" name=\"DESSHFT\" size=\"8\" "));
     EXPECT_THAT(xml, HasSubstr("      </DESCmplxField>\n      <DATA base64Encoded=\"F\">&lt;?xml "));
     EXPECT_THAT(xml, Not(HasSubstr("<DESField field=\"21\"")));
