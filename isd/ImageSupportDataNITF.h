@@ -377,7 +377,7 @@ public:
     const char* SerializeImageSupportDataNITF(int aVersion);
     /// Writes the same document in pieces, so that it never stands in memory as a whole. False with a text in
     /// GetErrorMessage when not all of it could be written.
-    bool WriteXml(std::FILE* aOut);
+    bool WriteXml(std::FILE* aOut) const;
     /// The element that holds all image segments; nothing when there are none. What cannot be written sets failbit.
     void SerializeImageSegments(std::ostream& aOut) const;
     /// The same for graphics, or for symbols and labels.

@@ -113,20 +113,18 @@ const char* ImageSupportDataNITF::SerializeImageSupportDataNITF(int aVersion)
     return m_keptText.c_str();
 }
 
-bool ImageSupportDataNITF::WriteXml(std::FILE* aOut)
+bool ImageSupportDataNITF::WriteXml(std::FILE* aOut) const
 {
     ClearMessages();
     if (aOut == nullptr || m_parts->header == nullptr) {
-        m_errorMessage = "ERROR: There is nothing to write, or nothing to write to.";
-        return false;
+        return RefuseQuery("ERROR: There is nothing to write, or nothing to write to.");
     }
     NITFFieldSegment::Document out([aOut](std::string_view aPiece) {
         return std::fwrite(aPiece.data(), 1, aPiece.size(), aOut) == aPiece.size();
     });
     AppendDocument(out, *m_parts, GetFormatVersion());
     if (!out.Finish()) {
-        m_errorMessage = "ERROR: The document cannot be written, or the file changed while it was read.";
-        return false;
+        return RefuseQuery("ERROR: The document cannot be written, or the file changed while it was read.");
     }
     return true;
 }
@@ -145,7 +143,8 @@ const char* ImageSupportDataNITF::GetSerializedXMLMetadata(const char* aSegment,
 {
     const NITFCnst::DataSegmentType kind = NITFStdDataSegment::GetDataSegmentCode(aSegment);
     // A negative number becomes one that no segment has.
-    NITFFieldSegment* const segment = AskedSegment(kind, static_cast<std::size_t>(aIndex));
+    const auto index = static_cast<std::size_t>(aIndex);
+    NITFFieldSegment* const segment = GetSegment(kind, index) == nullptr ? nullptr : m_parts->Segment(kind, index);
     const bool isHeader = kind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER;
     return segment == nullptr ? nullptr : segment->SerializeDataSegment(isHeader ? HEADER_INDENT : SEGMENT_INDENT);
 }

@@ -98,7 +98,7 @@ NITFStdDataSegmentInfos::NITFStdDataSegmentInfos(const NITFStdDataSegmentInfos& 
     for (const NITFStdDataSegmentInfo* const other : aOther.m_inFileOrder) {
         auto info = std::make_unique<NITFStdDataSegmentInfo>(*other);
         m_inFileOrder.push_back(info.get());
-        m_byKind[NITFStdDataSegment::GetDataSegmentName(info->GetDataSegmentType())].push_back(std::move(info));
+        m_byKind[static_cast<std::size_t>(info->GetDataSegmentType())].push_back(std::move(info));
     }
 }
 
