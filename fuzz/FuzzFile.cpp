@@ -36,17 +36,30 @@ private:
     int m_descriptor;
 };
 
+/// Whether the bytes become an object, as they are or as what can be read of them.
+bool Made(const MemoryFile& aFile, ImageSupportData*& aIsd, bool aSalvage)
+{
+    try {
+        if (aSalvage) {
+            ImageSupportDataFactory::Salvage(aFile.Path().c_str(), &aIsd);
+        } else {
+            ImageSupportDataFactory::Create(aFile.Path().c_str(), &aIsd, true, false);
+        }
+        return true;
+    } catch (const CSMException&) {
+        return false;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* aBytes, std::size_t aSize)
 {
     const MemoryFile file(aBytes, aSize);
     ImageSupportData* isd = nullptr;
-    try {
-        ImageSupportDataFactory::Create(file.Path().c_str(), &isd, true, false);
-    } catch (const CSMException&) {
-        return 0;
-    } catch (const std::exception&) {
+    if (!Made(file, isd, false) && !Made(file, isd, true)) {
         return 0;
     }
     if (isd == nullptr || isd->Serialize() == nullptr) {
@@ -56,6 +69,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* aBytes, std::size_t aS
     unsigned long warnings = 0;
     isd->RigorousValidation(errors, warnings);
     isd->GetAllSecurityClassificationMarkings();
+    isd->GetImageSupportDataSummary();
+    dynamic_cast<const ImageSupportDataNITF&>(*isd).RetrieveOrmoMetadata(0);
     ImageSupportDataFactory::Destroy(&isd);
     return 0;
 }

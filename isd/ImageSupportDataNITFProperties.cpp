@@ -1,6 +1,7 @@
 // What a file answers by property key.
 
 #include "fields/MessageText.h"
+#include "foundation/CSMException.h"
 #include "foundation/detail/Ascii.h"
 #include "isd/detail/IsdParts.h"
 #include "isd/detail/PropertyTable.h"
@@ -73,6 +74,8 @@ const char* ImageSupportDataNITF::GetOrmoMetadata(const char* aKey, std::size_t 
             ClearMessages();  // what was asked on the way may not have been there
         }
         return place->second.empty() ? nullptr : place->second.c_str();
+    } catch (const CSMException&) {
+        return nullptr;
     } catch (const std::exception&) {
         return nullptr;
     }

@@ -42,16 +42,15 @@ std::string SegmentCounts(const ImageSupportDataNITF::Parts& aParts)
 std::string ImageSupportDataNITF::GetFileSummary() const
 {
     const NITFFileHeader& header = *m_parts->header;
-    std::string text = std::string(GetFileTypeAndVersion()) + ", " + NITFWords::Meaning(header, "FSCLAS") + ", " +
-                       NITFWords::Date(header.FieldText("FDT")) + ", " + NITFWords::Size(GetNITFFileSize()) +
-                       ", complexity level " + NITFWords::Number(header.FieldText("CLEVEL")) + '\n';
+    std::string text = NITFWords::Joined({GetFileTypeAndVersion(), NITFWords::Meaning(header, "FSCLAS"),
+                                          NITFWords::Date(header.FieldText("FDT")), NITFWords::Size(GetNITFFileSize()),
+                                          "complexity level " + NITFWords::Number(header.FieldText("CLEVEL"))}) +
+                       '\n';
     AppendLine(text, "title", NITFWords::Shown(header.FieldText("FTITLE")));
-    std::string from = NITFWords::Shown(header.FieldText("OSTAID"));
-    for (const char* const field : {"ONAME", "OPHONE"}) {
-        const std::string part = NITFWords::Shown(header.FieldText(field));
-        from += from.empty() || part.empty() ? part : ", " + part;
-    }
-    AppendLine(text, "from", from);
+    AppendLine(
+        text, "from",
+        NITFWords::Joined({NITFWords::Shown(header.FieldText("OSTAID")), NITFWords::Shown(header.FieldText("ONAME")),
+                           NITFWords::Shown(header.FieldText("OPHONE"))}));
     AppendLine(text, "segments", SegmentCounts(*m_parts));
     return text;
 }

@@ -137,7 +137,7 @@ bool NITFWords::ToIsoDate(std::string_view aText, char aBetween, std::string& aD
 std::string NITFWords::Date(std::string_view aText, char aBetween)
 {
     std::string date;
-    return ToIsoDate(aText, aBetween, date) ? date : Shown(aText);
+    return ToIsoDate(aText, aBetween, date) ? date : IsFilled(aText) ? Shown(aText) : "";
 }
 
 std::string NITFWords::Size(std::uint64_t aBytes)
@@ -163,6 +163,23 @@ std::string NITFWords::Position(double aLatitude, double aLongitude)
     constexpr int DECIMALS = 6;
     return Util::CSMUtilString::ToString(std::fabs(aLatitude), false, DECIMALS) + (aLatitude < 0 ? " S " : " N ") +
            Util::CSMUtilString::ToString(std::fabs(aLongitude), false, DECIMALS) + (aLongitude < 0 ? " W" : " E");
+}
+
+std::string NITFWords::Joined(std::initializer_list<std::string_view> aTexts)
+{
+    std::string joined;
+    for (const std::string_view text : aTexts) {
+        joined += joined.empty() || text.empty() ? "" : ", ";
+        joined += text;
+    }
+    return joined;
+}
+
+bool NITFWords::IsFilled(std::string_view aText) noexcept
+{
+    return std::any_of(aText.begin(), aText.end(), [](char aCharacter) {
+        return Detail::IsDigit(aCharacter) || Detail::UpperCase(aCharacter) != Detail::LowerCase(aCharacter);
+    });
 }
 
 std::string NITFWords::Count(std::uint64_t aCount, std::string_view aWord)

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -22,7 +23,7 @@ public:
     /// A number without leading zeros; any other text as Shown.
     static std::string Number(std::string_view aText);
     /// "2000-06-02 19:23:21Z" of CCYYMMDDhhmmss, CCYYMMDD and DDhhmmssZMONYY, up to the first part that is unknown; any
-    /// other text as Shown. `aBetween` stands between date and time.
+    /// other text as Shown, nothing for one that is not filled. `aBetween` stands between date and time.
     static std::string Date(std::string_view aText, char aBetween = ' ');
     /// The same; false, with nothing set, when the text is no date of the calendar.
     [[nodiscard]] static bool ToIsoDate(std::string_view aText, char aBetween, std::string& aDate);
@@ -30,6 +31,10 @@ public:
     static std::string Size(std::uint64_t aBytes);
     /// "34.053700 N 118.242800 W"
     static std::string Position(double aLatitude, double aLongitude);
+    /// The texts that are not empty, with a comma between them.
+    static std::string Joined(std::initializer_list<std::string_view> aTexts);
+    /// Whether there is a letter or digit in the text: fields that nobody filled hold blanks, hyphens or NULs.
+    static bool IsFilled(std::string_view aText) noexcept;
     /// "3 images", "1 image"
     static std::string Count(std::uint64_t aCount, std::string_view aWord);
     /// The value of a field with what the table of the header says that it means: "JPEG 2000 (C8)"; as Shown when it

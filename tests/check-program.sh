@@ -73,6 +73,13 @@ grep -q "^ENDMF" "$work/out" || fail "cgm does not print the clear text"
 expect 0 "$tool" cgm --svg -o "$work/drawing.svg" "$sample"
 xmllint --noout "$work/drawing.svg" || fail "the drawing of the sample is no XML"
 expect 1 "$tool" cgm "$sample" 99
+expect 0 "$tool" cgm "$sample" 0
+cp "$work/out" "$work/first"
+expect 0 "$tool" cgm "$sample" graphic:0
+cmp -s "$work/out" "$work/first" || fail "graphic:0 is not the first graphic"
+expect 1 "$tool" cgm "$sample" symbol:0
+expect 2 "$tool" preview "$sample" text:0 -o "$work/none.png"
+expect 0 "$tool" property "$sample" image.category image:0
 expect 2 "$tool" cgm "$work/nothing.ntf"
 expect 0 "$tool" plugin
 grep -q "ORMO_CSM_PLUGIN" "$work/out" || fail "plugin does not show the plug-in of this library"

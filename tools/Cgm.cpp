@@ -5,6 +5,7 @@
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 #include "tools/Output.h"
+#include "tools/SegmentName.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,12 +22,11 @@ using namespace ORMO::SensorModel::CSM;
 
 namespace {
 
-/// "GraphicSegment 2".
+/// "graphic 2".
 std::string NameOf(const NITFFieldSegment& aSegment)
 {
     const NITFStdDataSegmentInfo* const info = aSegment.GetNITFStdDataSegmentInfo();
-    return std::string(NITFStdDataSegment::GetDataSegmentName(aSegment.GetDataSegmentType())) + ' ' +
-           std::to_string(info->GetSegmentIndex());
+    return ShownSegment(aSegment.GetDataSegmentType(), static_cast<std::size_t>(info->GetSegmentIndex()));
 }
 
 /// What a symbol without a metafile is, for a person; empty for all others.
@@ -173,25 +173,45 @@ std::string Drawing(const ImageSupportDataNITF& aIsd, const NITFDrawnSegment* aO
 struct Options
 {
     std::string file;
-    int index = -1;
+    std::string which;
     bool asSvg = false;
     std::string out;
 };
 
-int Cgm(const std::string& aFile, int aIndex, bool aSvg, const std::string& aOut)
+/// The one that a name or a position means; false, with the reason, when there is none.
+bool Choose(const std::vector<const NITFDrawnSegment*>& aDrawn, const std::string& aWhich,
+            const NITFDrawnSegment*& aOnly, std::string& aReason)
+{
+    SegmentName name;
+    const bool isNumber = aWhich.find_first_not_of("0123456789") == std::string::npos;
+    if (!isNumber && !ParseSegment(aWhich, name, aReason)) {
+        return false;
+    }
+    for (std::size_t i = 0; i != aDrawn.size(); ++i) {
+        const auto index = static_cast<std::size_t>(aDrawn[i]->GetNITFStdDataSegmentInfo()->GetSegmentIndex());
+        if (isNumber ? std::to_string(i) == aWhich : name.Holds(aDrawn[i]->GetDataSegmentType(), index)) {
+            aOnly = aDrawn[i];
+            return true;
+        }
+    }
+    aReason = "ERROR: The file has " + std::to_string(aDrawn.size()) + " graphics, symbols and labels, none is " +
+              aWhich + '.';
+    return false;
+}
+
+int Cgm(const std::string& aFile, const std::string& aWhich, bool aSvg, const std::string& aOut)
 {
     const Isd isd = OpenFile(aFile);
     if (isd == nullptr) {
         return EXIT_WRONG_USE;
     }
     const std::vector<const NITFDrawnSegment*> drawn = isd->GetDrawnSegments();
-    const bool one = aIndex >= 0;
-    if (drawn.empty() || (one && static_cast<std::size_t>(aIndex) >= drawn.size())) {
-        PrintProblem(aFile, "ERROR: The file has " + std::to_string(drawn.size()) + " graphics, symbols and labels" +
-                                (one ? ", none has the index " + std::to_string(aIndex) : "") + ".");
+    const NITFDrawnSegment* only = nullptr;
+    std::string reason = "ERROR: The file has no graphics, symbols or labels.";
+    if (drawn.empty() || (!aWhich.empty() && !Choose(drawn, aWhich, only, reason))) {
+        PrintProblem(aFile, reason);
         return EXIT_FILE_HAS_ERRORS;
     }
-    const NITFDrawnSegment* const only = one ? drawn[static_cast<std::size_t>(aIndex)] : nullptr;
     std::ostringstream text;
     if (aSvg) {
         text << Drawing(*isd, only);
@@ -217,9 +237,11 @@ Action DeclareCgm(CLI::App& aApp)
     aApp.add_flag("--svg", options->asSvg, "A drawing in common coordinates, ordered by display level");
     aApp.add_option("-o", options->out, "File to write; standard output without it");
     aApp.add_option("FILE", options->file, "NITF or NSIF file")->required();
-    aApp.add_option("INDEX", options->index,
-                    "Position among graphics, or among symbols and then labels, from 0; all without it");
-    return [options] { return Cgm(options->file, options->index, options->asSvg, options->out); };
+    aApp.add_option(
+        "INDEX", options->which,
+        "Position among graphics, or among symbols and then labels, from 0, or a name such as symbol:0; all "
+        "without it");
+    return [options] { return Cgm(options->file, options->which, options->asSvg, options->out); };
 }
 
 }  // namespace
@@ -227,7 +249,7 @@ Action DeclareCgm(CLI::App& aApp)
 constexpr Command CGM{.name = "cgm",
                       .summary = "Graphics, symbols and labels as clear text, or drawn over the images",
                       .examples =
-                          "cgm chart.ntf 0\n"
+                          "cgm chart.ntf symbol:0\n"
                           "cgm --svg -o chart.svg chart.ntf",
                       .exitCodes = "0 done, 1 no such graphic, 2 wrong use or a file that cannot be opened",
                       .declare = DeclareCgm};

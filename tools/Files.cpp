@@ -1,5 +1,6 @@
 #include "tools/Files.h"
 
+#include "foundation/CSMException.h"
 #include "isd/ImageSupportDataFactory.h"
 #include "tools/Isd.h"
 #include "tools/Progress.h"
@@ -146,6 +147,8 @@ private:
             int exitCode = EXIT_WRONG_USE;
             try {
                 exitCode = m_work(m_files[file]);
+            } catch (const CSMException& error) {
+                PrintProblem(m_files[file], error.GetErrorMessage());
             } catch (const std::exception& error) {
                 PrintProblem(m_files[file], std::string("ERROR: ") + error.what());
             }

@@ -176,10 +176,11 @@ private:
     void PrintImage(const NITFImageSubheader& aImage)
     {
         const bool is21 = aImage.FieldText("IID1").data() != nullptr;
-        std::string line = NITFWords::Shown(aImage.FieldText(is21 ? "IID1" : "IID"));
-        line = line.empty() ? "" : "identifier " + line + ", ";
+        const std::string_view identifier = aImage.FieldText(is21 ? "IID1" : "IID");
         m_lines.Add(4,
-                    line + NITFWords::Date(aImage.FieldText("IDATIM")) + ", " + NITFWords::Meaning(aImage, "ISCLAS"));
+                    NITFWords::Joined(
+                        {NITFWords::IsFilled(identifier) ? "identifier " + NITFWords::Shown(identifier) : std::string(),
+                         NITFWords::Date(aImage.FieldText("IDATIM")), NITFWords::Meaning(aImage, "ISCLAS")}));
         unsigned long columns = 0;
         unsigned long rows = 0;
         if (aImage.GetNumPixelsPerBlock(columns, rows) && aImage.GetFieldNBPR() * aImage.GetFieldNBPC() > 1) {

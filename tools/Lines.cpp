@@ -31,6 +31,18 @@ const char* Escape(Lines::Style aStyle) noexcept
     }
 }
 
+/// Where to break a text that is too long: behind a comma in the last part of the line, else at a blank.
+std::size_t BreakOf(std::string_view aText, std::size_t aRoom)
+{
+    constexpr std::size_t LAST_PART = 40;
+    const auto comma = aText.rfind(", ", aRoom - 1);
+    if (comma != std::string_view::npos && comma + LAST_PART > aRoom) {
+        return comma + 1;
+    }
+    const auto blank = aText.rfind(' ', aRoom);
+    return blank == std::string_view::npos || blank == 0 ? aRoom : blank;
+}
+
 }  // namespace
 
 Lines::Lines(std::ostream& aOut) : m_out(aOut), m_coloured(IsColoured()) {}
@@ -52,9 +64,7 @@ void Lines::Add(std::size_t aIndent, std::string_view aText, Style aStyle)
     constexpr std::size_t FURTHER = 4;
     std::size_t indent = aIndent;
     while (aText.size() > WIDTH - indent) {
-        const auto blank = aText.rfind(' ', WIDTH - indent);
-        const bool whole = blank == std::string_view::npos || blank == 0;
-        const std::size_t end = whole ? WIDTH - indent : blank;
+        const std::size_t end = BreakOf(aText, WIDTH - indent);
         Write(indent, aText.substr(0, end), aStyle);
         aText.remove_prefix(end);
         aText.remove_prefix(std::min(aText.find_first_not_of(' '), aText.size()));

@@ -23,7 +23,7 @@ public:
 
     explicit Lines(std::ostream& aOut);
 
-    /// Writes a line behind that many blanks, broken at blanks where it is too long.
+    /// Writes a line behind that many blanks, broken behind commas or at blanks where it is too long.
     void Add(std::size_t aIndent, std::string_view aText, Style aStyle = Style::Plain);
     /// The same as it is, whatever its length: a path must stay whole.
     void AddWhole(std::string_view aText, Style aStyle = Style::Plain);

@@ -3,6 +3,7 @@
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 #include "tools/Nearest.h"
+#include "tools/SegmentName.h"
 
 #include <iostream>
 #include <memory>
@@ -21,6 +22,7 @@ struct Options
 {
     std::string file;
     std::string key;
+    std::string imageText = "0";
     std::size_t image = 0;
     bool keys = false;
 };
@@ -64,7 +66,7 @@ int Refuse(const Options& aOptions)
     return EXIT_FILE_HAS_ERRORS;
 }
 
-int Property(const Options& aOptions)
+int Property(Options& aOptions)
 {
     if (aOptions.keys) {
         std::cout << PropertyCatalogue::GetPage();
@@ -72,6 +74,11 @@ int Property(const Options& aOptions)
     }
     if (aOptions.file.empty()) {
         std::cerr << "ormo-nitf: ERROR: A file is missing: ormo-nitf property FILE [KEY [IMAGE]].\n";
+        return EXIT_WRONG_USE;
+    }
+    std::string reason;
+    if (!ParseIndex(aOptions.imageText, NITFCnst::DATA_SEGMENT_TYPE_IMAGE, aOptions.image, reason)) {
+        PrintProblem(aOptions.file, reason);
         return EXIT_WRONG_USE;
     }
     const Isd isd = OpenFile(aOptions.file);
@@ -102,7 +109,8 @@ Action DeclareProperty(CLI::App& aApp)
     aApp.add_flag("--keys", options->keys, "All keys, what they mean and what answers them, as a Markdown page");
     aApp.add_option("FILE", options->file, "NITF or NSIF file");
     aApp.add_option("KEY", options->key, "Key such as acquisition.date; all that are answered without it");
-    aApp.add_option("IMAGE", options->image, "Index among the image segments, from 0; the first without it");
+    aApp.add_option("IMAGE", options->imageText,
+                    "Index among the images, from 0, such as 1 or image:1; the first without it");
     return [options] { return Property(*options); };
 }
 

@@ -64,4 +64,20 @@ bool ParseSegment(const std::string& aText, SegmentName& aSegment, std::string& 
     return true;
 }
 
+bool ParseIndex(const std::string& aText, NITFCnst::DataSegmentType aKind, std::size_t& aIndex, std::string& aReason)
+{
+    const std::string word = SegmentWord(aKind);
+    SegmentName segment;
+    const bool isNumber = !aText.empty() && aText.find_first_not_of("0123456789") == std::string::npos;
+    if (!ParseSegment(isNumber ? word + ':' + aText : aText, segment, aReason)) {
+        return false;
+    }
+    if (segment.kind != aKind || !segment.isIndexed) {
+        aReason = "ERROR: " + aText + " names no " + word + ": it is an index from 0, such as 0 or " + word + ":0.";
+        return false;
+    }
+    aIndex = segment.index;
+    return true;
+}
+
 }  // namespace OrmoNitf

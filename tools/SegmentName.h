@@ -32,6 +32,11 @@ inline constexpr const char* SEGMENT_WORDS = "image, graphic, symbol, label, tex
 /// with the reason, for any other text.
 [[nodiscard]] bool ParseSegment(const std::string& aText, SegmentName& aSegment, std::string& aReason);
 
+/// Reads an index alone, or with the word of a kind that it can only be: "2" or "image:2". False, with the reason, for
+/// any other text.
+[[nodiscard]] bool ParseIndex(const std::string& aText, NITFCnst::DataSegmentType aKind, std::size_t& aIndex,
+                              std::string& aReason);
+
 /// "image 2", "header".
 std::string ShownSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex);
 /// "image"

@@ -1,5 +1,6 @@
 #include "tre/NITFMetadataHelper.h"
 
+#include "foundation/CSMException.h"
 #include "foundation/PropertyKey.h"
 #include "foundation/detail/Ascii.h"
 #include "isd/ImageSupportDataFactory.h"
@@ -34,6 +35,8 @@ bool Guarded(Ask aAsk) noexcept
 {
     try {
         return aAsk();
+    } catch (const CSMException&) {
+        return false;
     } catch (const std::exception&) {
         return false;
     }

@@ -226,17 +226,29 @@ private:
         }
     }
 
-    /// Every length in turn, made what the size of the file leaves for it.
+    /// Every length in turn, made what the size of the file leaves for it. No other number moves for it.
     void TryLengths(const HeaderNumbers& aNumbers)
     {
+        const auto wrong = std::count_if(aNumbers.numbers.begin(), aNumbers.numbers.end(),
+                                         [](const HeaderNumber& aNumber) { return !aNumber.isNumber; });
+        if (aNumbers.end != aNumbers.HeaderLength() || wrong > 1) {
+            return;
+        }
+        HeaderNumbers changed = aNumbers;
+        const std::uint64_t sum = aNumbers.Sum();
         for (const HeaderSegment& segment : aNumbers.segments) {
             for (const std::size_t at : {segment.header, segment.data}) {
                 const HeaderNumber& number = aNumbers.numbers[at];
-                const std::uint64_t others = aNumbers.Sum() - number.value;
-                if (m_source.Size() >= others && m_source.Size() - others != number.value &&
-                    IsOfWidth(number, m_source.Size() - others)) {
-                    Try({at, m_source.Size() - others});
+                const std::uint64_t others = sum - number.value;
+                const std::uint64_t left = m_source.Size() >= others ? m_source.Size() - others : number.value;
+                if (left == number.value || !IsOfWidth(number, left) || (wrong == 1 && number.isNumber)) {
+                    continue;
                 }
+                changed.numbers[at].value = left;
+                if (HasMarks(changed)) {
+                    m_found.push_back({at, left});
+                }
+                changed.numbers[at].value = number.value;
             }
         }
     }
@@ -354,7 +366,7 @@ bool RepairFileHeader(const ByteSource& aSource, NITFCnst::Version aVersion, std
     Repair repair(aSource, aVersion, bytes);
     const HeaderNumbers numbers = repair.With({});
     Change change;
-    if (repair.IsSound(numbers) || !repair.Find(numbers, change)) {
+    if (numbers.numbers.empty() || repair.IsSound(numbers) || !repair.Find(numbers, change)) {
         return false;
     }
     const HeaderNumbers repaired = repair.With(change);

@@ -4,6 +4,7 @@
 #include "foundation/detail/Ascii.h"
 #include "isd/ImageSupportDataNITF.h"
 #include "isd/detail/PropertyTable.h"
+#include "segments/NITFWords.h"
 
 #include <string_view>
 
@@ -37,11 +38,6 @@ bool FieldOfHeader(const NITFFieldSegment* aSegment, const char* aField, std::st
     return aValue.data() != nullptr;
 }
 
-bool IsHyphens(std::string_view aText) noexcept
-{
-    return aText.find_first_not_of('-') == std::string_view::npos;
-}
-
 /// Whether a trimmed value says something.
 bool IsKnown(PropertyForm aForm, std::string_view aText)
 {
@@ -56,7 +52,7 @@ bool IsKnown(PropertyForm aForm, std::string_view aText)
         case PropertyForm::Feet:
             return NumberOfText(aText, number);
         default:
-            return !aText.empty() && !IsHyphens(aText);
+            return NITFWords::IsFilled(aText);
     }
 }
 

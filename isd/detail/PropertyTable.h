@@ -52,7 +52,7 @@ struct PropertySource
 /// What the values of a property are, which tells those that mean "not known".
 enum class PropertyForm : std::uint8_t
 {
-    Text,     ///< blanks or hyphens mean not known
+    Text,     ///< without a letter or digit nothing is known
     Date,     ///< as the field writes it
     Degrees,  ///< a number; 999.9 means not known
     Percent,  ///< a number; 999 means not known

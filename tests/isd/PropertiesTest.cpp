@@ -221,6 +221,8 @@ TEST_F(PropertiesTest, AHelperBindsToAFileOfItsOwn)
     EXPECT_EQ(helper.SerializeNITFMetadata(), nullptr);
     EXPECT_FALSE(helper.Set("/no/such/file", true, false));
     EXPECT_FALSE(helper.Set(nullptr, true, false));
+    const TempFile damaged(builder.Bytes().substr(0, 370));
+    EXPECT_FALSE(helper.Set(damaged.CStr(), true, false));
     ASSERT_TRUE(helper.Set(file.CStr(), true, false));
     const char* value = nullptr;
     std::size_t length = 0;

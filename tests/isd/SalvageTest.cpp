@@ -246,6 +246,23 @@ TEST(SalvageTest, TwoWrongNumbersAreNotGuessedAt)
     }
 }
 
+TEST(SalvageTest, AFileThatEndsInItsHeaderIsRefusedWhereverItEnds)
+{
+    for (const bool isDowngraded : {false, true}) {
+        NitfBuilder builder = ThreeSegments(Format::Nitf20);
+        if (isDowngraded) {
+            builder.File().Event("an event that opens a field");
+        }
+        const std::string bytes = builder.Bytes();
+        for (std::size_t length = 330; length != 420; ++length) {
+            const TempFile file(bytes.substr(0, length));
+            ImageSupportData* isd = nullptr;
+            EXPECT_THROW(ImageSupportDataFactory::Salvage(file.CStr(), &isd), ImageSupportDataConstructionException)
+                << length;
+        }
+    }
+}
+
 TEST(SalvageTest, ASegmentThatCannotBeReadIsNamedWithItsPlace)
 {
     NitfBuilder builder = ThreeSegments(Format::Nitf21);

@@ -22,13 +22,24 @@ TEST(NITFWordsTest, DatesOfBothVersionsAreShownUpToTheFirstUnknownPart)
 
 TEST(NITFWordsTest, WhatIsNoDateIsShownAsItIs)
 {
-    for (const char* const text : {"20010229000000", "20001302000000", "00000000000000x", "--------------", "2000",
-                                   "14213214ZXXX96", "14253214ZNOV96", "20000602 92321", ""}) {
+    for (const char* const text : {"20010229000000", "20001302000000", "00000000000000x", "2000", "14213214ZXXX96",
+                                   "14253214ZNOV96", "20000602 92321", ""}) {
         std::string date = "before";
         EXPECT_EQ(NITFWords::Date(text), text);
         EXPECT_FALSE(NITFWords::ToIsoDate(text, 'T', date)) << text;
         EXPECT_EQ(date, "before");
     }
+}
+
+TEST(NITFWordsTest, FieldsThatNobodyFilledSayNothing)
+{
+    for (const std::string_view text : {std::string_view("--------------"), std::string_view("\0\0\0", 3),
+                                        std::string_view(" "), std::string_view()}) {
+        EXPECT_FALSE(NITFWords::IsFilled(text));
+        EXPECT_EQ(NITFWords::Date(text), "");
+    }
+    EXPECT_TRUE(NITFWords::IsFilled("-1"));
+    EXPECT_EQ(NITFWords::Joined({"", "a", "", "b", ""}), "a, b");
 }
 
 TEST(NITFWordsTest, SizesHaveThreeFigures)
