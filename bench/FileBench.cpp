@@ -27,4 +27,44 @@ void OpenFileWithImages(benchmark::State& aState)
 }
 BENCHMARK(OpenFileWithImages)->Arg(0)->Arg(1)->Arg(99)->Arg(999);
 
+/// One image with a hundred texts and as many DESs, of which nobody may want to know.
+void OpenFileWithOthers(benchmark::State& aState)
+{
+    NitfBuilder builder;
+    builder.AddImage();
+    for (int i = 0; i != 100; ++i) {
+        builder.AddText().Area("TXSHD", Tre("OFTEXT", "data"));
+        builder.AddDes("SOME DES", "data");
+    }
+    const TempFile file(builder.Bytes());
+    const bool allSegments = aState.range(0) != 0;
+    for (auto turn : aState) {
+        ImageSupportData* isd = nullptr;
+        ImageSupportDataFactory::Create(file.CStr(), &isd, allSegments, false);
+        benchmark::DoNotOptimize(isd);
+        ImageSupportDataFactory::Destroy(&isd);
+    }
+}
+BENCHMARK(OpenFileWithOthers)->ArgName("all")->Arg(0)->Arg(1);
+
+/// A deep copy of a file with images, its release included.
+void CloneFileWithImages(benchmark::State& aState)
+{
+    NitfBuilder builder;
+    for (long i = 0; i != aState.range(0); ++i) {
+        builder.AddImage();
+    }
+    const TempFile file(builder.Bytes());
+    ImageSupportData* isd = nullptr;
+    ImageSupportDataFactory::Create(file.CStr(), &isd, true, false);
+    for (auto turn : aState) {
+        ImageSupportData* copy = nullptr;
+        ImageSupportDataFactory::Clone(isd, &copy);
+        benchmark::DoNotOptimize(copy);
+        ImageSupportDataFactory::Destroy(&copy);
+    }
+    ImageSupportDataFactory::Destroy(&isd);
+}
+BENCHMARK(CloneFileWithImages)->Arg(1)->Arg(99);
+
 }  // namespace

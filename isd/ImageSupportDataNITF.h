@@ -106,8 +106,8 @@ public:
     void CloseFileHandleOnResetOrDelete(bool aClose) noexcept;
 
     // The segments, by kind and index. A query about a segment that is not in the file, or was not read, answers false
-    // or null, with the outputs as they were, and GetErrorMessage says so; so does a query about an unknown name. A
-    // false or null answer without a text says that the segment does not tell.
+    // or null, with arrays null and 0 and other outputs as they were, and GetErrorMessage says so; the same for an
+    // unknown name. A false or null answer without a text says that the segment does not tell.
 
     const NITFStdDataSegmentInfos& GetSegmentInfos() const noexcept;
     long GetNumOfImageSegments() const override;
@@ -295,7 +295,8 @@ public:
 
     // Security classification markings: each distinct one with its rank (NITFCnst::GetSecurityClassificationRank).
 
-    /// Those of the file header, of every segment and of every TRE that carries one.
+    /// Those of the file header, of every segment that was read, and of RPFHDR. What TREs say of the classification of
+    /// sources does not count.
     bool RetrieveAllSecurityClassificationMarkings(Markings& aMarkings) const;
     /// Those of graphics, symbols and labels, and of their TREs.
     bool GetVersionSpecificStdDataSegmentsSecurityClassificationMarkings(Markings& aMarkings) const;
