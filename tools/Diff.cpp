@@ -39,7 +39,7 @@ std::map<std::string, const TRE*> TREsOf(const NITFFieldSegment& aSegment)
 {
     std::map<std::string, const TRE*> tres;
     std::map<std::string, int> turns;
-    for (const TREStore* const store : {&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()}) {
+    for (const TREStore* const store : StoresOf(aSegment)) {
         for (const TRE* const tre : store->InOrder()) {
             const std::string tag = NITFWords::Shown(tre->GetTag());
             const int turn = ++turns[tag];

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -50,7 +51,10 @@ std::string Right(std::uint64_t aNumber, std::size_t aWidth)
 class Map
 {
 public:
-    Map(const std::string& aPath, const ImageSupportDataNITF& aIsd) : m_path(aPath), m_isd(aIsd) {}
+    Map(const std::string& aPath, const ImageSupportDataNITF& aIsd)
+        : m_path(aPath), m_isd(aIsd), m_findings(aIsd.GetFindings())
+    {
+    }
 
     void Print(NITFCnst::DataSegmentType aKind, std::size_t aIndex, const NITFStdDataSegmentInfo* aInfo)
     {
@@ -65,18 +69,16 @@ public:
         }
         std::cout << '\n';
         const NITFFieldSegment* const segment = m_isd.GetSegment(aKind, aIndex);
-        PrintErrors(aKind, aIndex);
+        if (const Finding* const error = ErrorOf(m_findings, aKind, aIndex); error != nullptr) {
+            Lines(std::cout).Add(2, error->Line(), Lines::Style::Error);
+        }
         if (segment == nullptr) {
             PrintBytes(start, size);
             return;
         }
         PrintFields(*segment, start, size);
-        for (const TREStore* const store : {&segment->GetTREStore(), &segment->GetOverflowTREStore()}) {
+        for (const TREStore* const store : StoresOf(*segment)) {
             PrintTREs(*store);
-        }
-        const auto* const des = dynamic_cast<const NITFDESSubheader*>(segment);
-        if (des != nullptr && des->IsTREOverflow() && !m_isd.IsOverflowPlaced(aIndex)) {
-            PrintTREs(des->GetOverflowTREs());
         }
     }
 
@@ -152,19 +154,6 @@ private:
         }
     }
 
-    void PrintErrors(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const
-    {
-        const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);
-        const bool header = aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER;
-        Lines lines(std::cout);
-        for (const Finding& finding : m_isd.GetFindings()) {
-            if (finding.level != Finding::Level::Warning && finding.segment == name &&
-                (header || finding.index == static_cast<int>(aIndex))) {
-                lines.Add(2, finding.Line(), Lines::Style::Error);
-            }
-        }
-    }
-
     /// What stands where a subheader should, for a person to judge.
     void PrintBytes(std::uint64_t aStart, std::uint64_t aSize) const
     {
@@ -190,6 +179,7 @@ private:
 
     const std::string& m_path;
     const ImageSupportDataNITF& m_isd;
+    std::vector<Finding> m_findings;
 };
 
 int Dump(const Options& aOptions)

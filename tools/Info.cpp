@@ -46,7 +46,7 @@ public:
             m_lines.Add(2, line);
         }
         PrintFindings();
-        PrintTREs({&m_isd.GetNITFFileHeader()->GetTREStore(), &m_isd.GetNITFFileHeader()->GetOverflowTREStore()}, 2);
+        PrintTREs(StoresOf(*m_isd.GetNITFFileHeader()), 2);
         const auto& infos = m_isd.GetSegmentInfos().InFileOrder();
         for (std::size_t i = 0; i != infos.size();) {
             const std::size_t run = m_all ? 1 : RunOf(infos, i);
@@ -136,11 +136,8 @@ private:
     /// A segment in which something is wrong, and which may be another than it seems.
     bool IsDoubtful(const Info& aInfo) const
     {
-        const std::string name = NITFStdDataSegment::GetDataSegmentName(aInfo.GetDataSegmentType());
-        return std::any_of(m_findings.begin(), m_findings.end(), [&](const Finding& aFinding) {
-            return aFinding.level != Finding::Level::Warning && aFinding.segment == name &&
-                   aFinding.index == aInfo.GetSegmentIndex();
-        });
+        return ErrorOf(m_findings, aInfo.GetDataSegmentType(), static_cast<std::size_t>(aInfo.GetSegmentIndex())) !=
+               nullptr;
     }
 
     void PrintSegment(const Info& aInfo)
@@ -164,23 +161,22 @@ private:
         } else {
             m_lines.Add(2, name + OtherSummary(aInfo, *segment), Lines::Style::Heading);
         }
-        PrintTREs({&segment->GetTREStore(), &segment->GetOverflowTREStore()}, 4);
+        PrintTREs(StoresOf(*segment), 4);
         if (const auto* const des = dynamic_cast<const NITFDESSubheader*>(segment); des != nullptr) {
             PrintXmlProduct(*des);
-            if (des->IsTREOverflow() && !m_isd.IsOverflowPlaced(static_cast<std::size_t>(aInfo.GetSegmentIndex()))) {
-                PrintTREs({&des->GetOverflowTREs()}, 4);
-            }
         }
     }
 
     void PrintImage(const NITFImageSubheader& aImage)
     {
-        const bool is21 = aImage.FieldText("IID1").data() != nullptr;
-        const std::string_view identifier = aImage.FieldText(is21 ? "IID1" : "IID");
-        m_lines.Add(4,
-                    NITFWords::Joined(
-                        {NITFWords::IsFilled(identifier) ? "identifier " + NITFWords::Shown(identifier) : std::string(),
-                         NITFWords::Date(aImage.FieldText("IDATIM")), NITFWords::Meaning(aImage, "ISCLAS")}));
+        std::string identifier;
+        for (const char* const field : {"IID1", "IID", "IID2"}) {
+            const std::string_view part = aImage.FieldText(field);
+            identifier += NITFWords::IsFilled(part) ? ' ' + NITFWords::Shown(part) : "";
+        }
+        m_lines.Add(
+            4, NITFWords::Joined({identifier.empty() ? identifier : "identifier" + identifier,
+                                  NITFWords::Date(aImage.FieldText("IDATIM")), NITFWords::Meaning(aImage, "ISCLAS")}));
         unsigned long columns = 0;
         unsigned long rows = 0;
         if (aImage.GetNumPixelsPerBlock(columns, rows) && aImage.GetFieldNBPR() * aImage.GetFieldNBPC() > 1) {
@@ -298,8 +294,8 @@ private:
         for (std::size_t i = aFrom; i != aFrom + aCount; ++i) {
             const NITFFieldSegment& segment = *SegmentOf(*aInfos[i]);
             bytes += aInfos[i]->GetSegmentDataSize();
-            stores.push_back(&segment.GetTREStore());
-            stores.push_back(&segment.GetOverflowTREStore());
+            const std::vector<const TREStore*> own = StoresOf(segment);
+            stores.insert(stores.end(), own.begin(), own.end());
             const auto* const drawn = dynamic_cast<const NITFDrawnSegment*>(&segment);
             if (drawn != nullptr && drawn->GetCGMMetaFile() != nullptr) {
                 primitives += drawn->GetCGMMetaFile()->GetAllGraphicalPrimitiveElements().size();

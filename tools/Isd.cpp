@@ -70,6 +70,27 @@ Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions)
     return Isd(nitf);
 }
 
+std::vector<const TREStore*> StoresOf(const NITFFieldSegment& aSegment)
+{
+    std::vector<const TREStore*> stores{&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()};
+    const auto* const des = dynamic_cast<const NITFDESSubheader*>(&aSegment);
+    if (des != nullptr && des->IsTREOverflow() && !des->IsOverflowPlaced()) {
+        stores.push_back(&des->GetOverflowTREs());
+    }
+    return stores;
+}
+
+const Finding* ErrorOf(const std::vector<Finding>& aFindings, NITFCnst::DataSegmentType aKind, std::size_t aIndex)
+{
+    const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);
+    const bool isHeader = aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER;
+    const auto error = std::find_if(aFindings.begin(), aFindings.end(), [&](const Finding& aFinding) {
+        return aFinding.level != Finding::Level::Warning && aFinding.segment == name &&
+               (isHeader || aFinding.index == static_cast<int>(aIndex));
+    });
+    return error == aFindings.end() ? nullptr : &*error;
+}
+
 int ExitCodeOf(const ImageSupportDataNITF& aIsd)
 {
     const std::vector<Finding> findings = aIsd.GetFindings();

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace OrmoNitf {
 
@@ -32,6 +33,15 @@ Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions = {});
 
 /// EXIT_FILE_HAS_ERRORS when errors were found on reading, as only salvage lets them pass, else EXIT_DONE.
 int ExitCodeOf(const ORMO::SensorModel::CSM::ImageSupportDataNITF& aIsd);
+
+/// The TREs of a segment, its own first and then those of overflow DESs; of a DES whose TREs belong to no segment those
+/// that it carries.
+std::vector<const ORMO::SensorModel::CSM::TREStore*> StoresOf(const ORMO::SensorModel::CSM::NITFFieldSegment& aSegment);
+
+/// The first error that names a segment, which is then not what it should be; null when there is none.
+const ORMO::SensorModel::CSM::Finding* ErrorOf(const std::vector<ORMO::SensorModel::CSM::Finding>& aFindings,
+                                               ORMO::SensorModel::CSM::NITFCnst::DataSegmentType aKind,
+                                               std::size_t aIndex);
 
 /// Writes one line to the problems, prefixed with the file name, without a control byte.
 void PrintProblem(const std::string& aPath, const std::string& aText);

@@ -129,18 +129,6 @@ private:
         }
     }
 
-    /// The first error that names a segment; null when there is none.
-    const Finding* ErrorOf(NITFCnst::DataSegmentType aKind, std::size_t aIndex) const
-    {
-        const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);
-        const bool header = aKind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER;
-        const auto error = std::find_if(m_findings.begin(), m_findings.end(), [&](const Finding& aFinding) {
-            return aFinding.level != Finding::Level::Warning && aFinding.segment == name &&
-                   (header || aFinding.index == static_cast<int>(aIndex));
-        });
-        return error == m_findings.end() ? nullptr : &*error;
-    }
-
     void WriteSegment(NITFCnst::DataSegmentType aKind, std::size_t aIndex, const NITFStdDataSegmentInfo* aInfo)
     {
         if (!m_options.filter.HasSegment(aKind, aIndex)) {
@@ -156,19 +144,14 @@ private:
         m_out.Key("header_size").Number(size);
         m_out.Key("data_offset").Number(aInfo == nullptr ? size : aInfo->GetSegmentDataStart());
         m_out.Key("data_size").Number(aInfo == nullptr ? 0 : aInfo->GetSegmentDataSize());
-        if (const Finding* const error = ErrorOf(aKind, aIndex); error != nullptr) {
+        if (const Finding* const error = ErrorOf(m_findings, aKind, aIndex); error != nullptr) {
             m_out.Key(segment == nullptr ? "error" : "doubtful");
             WriteError(*error, m_out);
         }
         WriteFields(segment);
         m_out.Key("tres").BeginArray();
-        if (segment != nullptr) {
-            WriteTREs(segment->GetTREStore());
-            WriteTREs(segment->GetOverflowTREStore());
-        }
-        const auto* const des = dynamic_cast<const NITFDESSubheader*>(segment);
-        if (des != nullptr && des->IsTREOverflow() && !m_isd.IsOverflowPlaced(aIndex)) {
-            WriteTREs(des->GetOverflowTREs());
+        for (const TREStore* const store : segment == nullptr ? std::vector<const TREStore*>() : StoresOf(*segment)) {
+            WriteTREs(*store);
         }
         m_out.EndArray().EndObject();
     }

@@ -105,7 +105,7 @@ const TRE* FindTre(const NITFFieldSegment* aSegment, const std::string& aTag)
     if (aSegment == nullptr) {
         return nullptr;
     }
-    for (const TREStore* const store : {&aSegment->GetTREStore(), &aSegment->GetOverflowTREStore()}) {
+    for (const TREStore* const store : StoresOf(*aSegment)) {
         if (const std::vector<TRE*>* const tres = store->Find(aTag.c_str()); tres != nullptr) {
             return tres->front();
         }
@@ -208,14 +208,8 @@ public:
     /// A value as CSV (RFC 4180) has it, in UTF-8, without the blanks around it.
     static std::string Cell(std::string_view aBytes)
     {
-        while (!aBytes.empty() && aBytes.back() == ' ') {
-            aBytes.remove_suffix(1);
-        }
-        while (!aBytes.empty() && aBytes.front() == ' ') {
-            aBytes.remove_prefix(1);
-        }
         std::string text;
-        Util::CSMUtilString::AppendLatin1AsUtf8(aBytes, text);
+        Util::CSMUtilString::AppendLatin1AsUtf8(TrimmedBlanks(aBytes), text);
         if (text.find_first_of(",\"\r\n") == std::string::npos) {
             return text;
         }

@@ -10,13 +10,6 @@ using Util::CSMCnst;
 
 namespace {
 
-std::string_view Trimmed(std::string_view aText) noexcept
-{
-    const auto first = aText.find_first_not_of(' ');
-    return first == std::string_view::npos ? std::string_view{}
-                                           : aText.substr(first, aText.find_last_not_of(' ') - first + 1);
-}
-
 /// Whether a value rule is the picture of a date.
 bool IsDateRule(std::string_view aRule) noexcept
 {
@@ -27,7 +20,7 @@ template<typename Owner>
 void Write(const Owner& aOwner, CSMCnst::DataType aType, std::string_view aRule, const std::string& aField,
            std::string_view aValue, JsonWriter& aOut)
 {
-    const std::string_view text = Trimmed(aValue);
+    const std::string_view text = TrimmedBlanks(aValue);
     std::int64_t integer = 0;
     double real = 0.0;
     std::string date;
@@ -61,6 +54,13 @@ void Write(const Owner& aOwner, CSMCnst::DataType aType, std::string_view aRule,
 }
 
 }  // namespace
+
+std::string_view TrimmedBlanks(std::string_view aText) noexcept
+{
+    const auto first = aText.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string_view{}
+                                           : aText.substr(first, aText.find_last_not_of(' ') - first + 1);
+}
 
 void WriteTyped(const TRE& aOwner, const std::string& aField, std::string_view aValue, JsonWriter& aOut)
 {

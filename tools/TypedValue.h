@@ -5,8 +5,12 @@
 #include "tre/TRE.h"
 
 #include <string>
+#include <string_view>
 
 namespace OrmoNitf {
+
+/// The text without the blanks around it.
+std::string_view TrimmedBlanks(std::string_view aText) noexcept;
 
 /// Writes the value of a field for its meaning: a number where the field is one, dates as ISO 8601 has them, text
 /// without the blanks around it, null for blanks, {"base64": "..."} for other bytes.
