@@ -1,6 +1,7 @@
 // What opening a whole file costs: header, subheaders and TREs; no pixels.
 
 #include "isd/ImageSupportDataFactory.h"
+#include "isd/ImageSupportDataNITF.h"
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/TempFile.h"
 
@@ -66,5 +67,25 @@ void CloneFileWithImages(benchmark::State& aState)
     ImageSupportDataFactory::Destroy(&isd);
 }
 BENCHMARK(CloneFileWithImages)->Arg(1)->Arg(99);
+
+/// What a validation costs beyond the opening; compare with OpenFileWithImages.
+void ValidateFileWithImages(benchmark::State& aState)
+{
+    NitfBuilder builder;
+    for (long i = 0; i != aState.range(0); ++i) {
+        builder.AddImage();
+    }
+    const TempFile file(builder.Bytes());
+    ImageSupportData* made = nullptr;
+    ImageSupportDataFactory::Create(file.CStr(), &made, true, false);
+    auto& isd = dynamic_cast<ImageSupportDataNITF&>(*made);
+    unsigned long errors = 0;
+    unsigned long warnings = 0;
+    for (auto turn : aState) {
+        isd.Validate({"20260601000000", {}}, errors, warnings);
+    }
+    ImageSupportDataFactory::Destroy(&made);
+}
+BENCHMARK(ValidateFileWithImages)->Arg(0)->Arg(1)->Arg(99)->Arg(999);
 
 }  // namespace

@@ -14,6 +14,29 @@ namespace {
 /// Of a long rule only the front: a hundred names help nobody.
 constexpr std::size_t MOST_ALLOWED = 120;
 
+bool IsMild(const FieldRow& aRow, Verdict aVerdict) noexcept
+{
+    return aRow.need == Need::Optional || aRow.isMild || (aVerdict == Verdict::Blank && aRow.oftenBlank);
+}
+
+/// The validation rule that a value breaks: the row's own, or the common one of what was found.
+std::string_view RuleOf(const FieldRow& aRow, Verdict aVerdict) noexcept
+{
+    if (aRow.rule != nullptr) {
+        return aRow.rule;
+    }
+    switch (aVerdict) {
+        case Verdict::WrongCharacters:
+            return "FLD-02";
+        case Verdict::Blank:
+            return "FLD-03";
+        case Verdict::NotANumber:
+            return "FLD-04";
+        default:
+            return "FLD-01";
+    }
+}
+
 }  // namespace
 
 std::string_view FieldRecord::Trimmed(std::string_view aName) noexcept
@@ -87,11 +110,12 @@ void FieldRecord::Check(const Finding& aPlace, FindingList& aFindings) const
         if (verdict == Verdict::Good) {
             continue;
         }
-        const bool mild = row.need == Need::Optional || (verdict == Verdict::Blank && row.oftenBlank);
-        const auto level = mild ? Finding::Level::Warning : Finding::Level::Error;
-        aFindings.AddMade(level, [&](FindingList& aList) {
+        const auto level = IsMild(row, verdict) ? Finding::Level::Warning : Finding::Level::Error;
+        const std::string_view rule = RuleOf(row, verdict);
+        aFindings.AddMade(level, rule, [&](FindingList& aList) {
             Finding finding = aPlace;
             finding.level = level;
+            finding.rule = rule;
             finding.sentence = FaultSentence(row, verdict);
             finding.field = m_store.Name(entry);
             finding.value = value.substr(0, 64);
@@ -151,7 +175,7 @@ std::size_t FieldRecord::AppendXml(FieldNaming aNaming, const char* aIndent, con
 
 const char* FaultSentence(const FieldRow& aRow, Verdict aVerdict) noexcept
 {
-    if (aRow.need == Need::Optional || (aVerdict == Verdict::Blank && aRow.oftenBlank)) {
+    if (IsMild(aRow, aVerdict)) {
         return CSMMsg::Warn::FIELD_VALUE_OUT_OF_VALID_RANGE;
     }
     if (aVerdict == Verdict::Blank) {

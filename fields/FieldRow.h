@@ -90,6 +90,8 @@ struct FieldRow
     bool isReadThrough = false;   ///< of a repeat: it is begun even when its turns cannot all be there
     const char* alias = nullptr;  ///< another common spelling, accepted on look-up
     bool oftenBlank = false;      ///< a blank is against the rule but usual: it is worth a warning, not an error
+    const char* rule = nullptr;   ///< identifier of the validation rule that the row's values are; null for the common
+    bool isMild = false;          ///< whatever stands there against the rule is worth a warning, not an error
 
     constexpr bool IsField() const noexcept { return kind == RowKind::Field; }
     constexpr bool IsGroup() const noexcept { return kind == RowKind::Repeat || kind == RowKind::When; }
@@ -113,6 +115,20 @@ struct FieldRow
     {
         FieldRow row = *this;
         row.oftenBlank = true;
+        return row;
+    }
+    /// The same row, whose values are a validation rule of its own.
+    constexpr FieldRow Rule(const char* aRule) const noexcept
+    {
+        FieldRow row = *this;
+        row.rule = aRule;
+        return row;
+    }
+    /// The same for a rule that only warns.
+    constexpr FieldRow MildRule(const char* aRule) const noexcept
+    {
+        FieldRow row = Rule(aRule);
+        row.isMild = true;
         return row;
     }
     /// The same row of a computed width, which is blamed on the named field when it cannot be worked out.

@@ -60,13 +60,19 @@ std::string Finding::Place() const
         AppendPart(place, ": ", "value " + Detail::Shown(value));
     }
     if (!detail.empty()) {
-        AppendPart(place, value.empty() ? ": " : " ", detail);
+        // A value may be followed by what it does ("is not a number") or by a sentence.
+        const bool isSentence = detail.back() == '.';
+        AppendPart(place, value.empty() || isSentence ? ": " : " ",
+                   detail.substr(0, detail.size() - (isSentence ? 1 : 0)));
     }
     if (!allowed.empty()) {
         AppendPart(place, ", ", "allowed " + allowed);
     }
     if (!clause.empty()) {
         AppendPart(place, ", ", clause);
+    }
+    if (!rule.empty()) {
+        AppendPart(place, ", ", "rule " + rule);
     }
     return place;
 }
@@ -95,16 +101,41 @@ Finding MakeFinding(Finding::Level aLevel, std::string_view aSentence, std::stri
     return finding;
 }
 
-Finding MakeFinding(std::string_view aSentence)
+Finding MakeFinding(std::string_view aSentence, std::string_view aRule)
 {
-    return MakeFinding(aSentence.starts_with("WARN")    ? Finding::Level::Warning
-                       : aSentence.starts_with("FATAL") ? Finding::Level::Fatal
-                                                        : Finding::Level::Error,
-                       aSentence);
+    Finding finding = MakeFinding(aSentence.starts_with("WARN")    ? Finding::Level::Warning
+                                  : aSentence.starts_with("FATAL") ? Finding::Level::Fatal
+                                                                   : Finding::Level::Error,
+                                  aSentence);
+    finding.rule = aRule;
+    return finding;
+}
+
+std::string_view LevelPrefix(Finding::Level aLevel) noexcept
+{
+    constexpr std::array<std::string_view, 3> PREFIXES{"WARN: ", "ERROR: ", "FATAL: "};
+    return PREFIXES[static_cast<std::size_t>(aLevel)];
+}
+
+void SetLevel(Finding& aFinding, Finding::Level aLevel)
+{
+    const std::string_view prefix = LevelPrefix(aFinding.level);
+    if (aFinding.sentence.starts_with(prefix)) {
+        aFinding.sentence.replace(0, prefix.size(), LevelPrefix(aLevel));
+    }
+    aFinding.level = aLevel;
+}
+
+bool FindingList::IsIgnored(std::string_view aRule) const noexcept
+{
+    return !aRule.empty() && std::find(m_ignored.begin(), m_ignored.end(), aRule) != m_ignored.end();
 }
 
 void FindingList::Add(Finding aFinding, std::string aText)
 {
+    if (IsIgnored(aFinding.rule)) {
+        return;
+    }
     ++m_counts[static_cast<std::size_t>(aFinding.level)];
     if (!HasRoom()) {
         return;
@@ -120,13 +151,26 @@ void FindingList::Add(Finding aFinding, std::string aText)
 
 void FindingList::Add(const FindingList& aOther)
 {
-    const auto before = m_counts;
     for (const Entry& entry : aOther.m_kept) {
         Add(entry.finding, entry.text);
     }
+    AddCounts(aOther.LeftOutByLevel());
+}
+
+void FindingList::AddCounts(const std::array<std::size_t, 3>& aCounts) noexcept
+{
     for (std::size_t i = 0; i != m_counts.size(); ++i) {
-        m_counts[i] = before[i] + aOther.m_counts[i];
+        m_counts[i] += aCounts[i];
     }
+}
+
+std::array<std::size_t, 3> FindingList::LeftOutByLevel() const noexcept
+{
+    auto left = m_counts;
+    for (const Entry& entry : m_kept) {
+        --left[static_cast<std::size_t>(entry.finding.level)];
+    }
+    return left;
 }
 
 std::size_t FindingList::Errors(const FindingMark& aSince) const noexcept

@@ -2,6 +2,7 @@
 
 #include "foundation/Finding.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
@@ -37,8 +38,11 @@ public:
     /// Counts a finding, and makes it only when there is room for it: a fault that a file may repeat a million times
     /// costs nothing once the list is full.
     template<typename Make>
-    void AddMade(Level aLevel, Make aMake)
+    void AddMade(Level aLevel, std::string_view aRule, Make aMake)
     {
+        if (IsIgnored(aRule)) {
+            return;
+        }
         if (HasRoom()) {
             aMake(*this);
         } else {
@@ -46,6 +50,17 @@ public:
         }
     }
     bool HasRoom() const noexcept { return m_kept.size() < MOST && m_bytes < MOST_TEXT; }
+    /// Findings of these rules are neither kept nor counted from now on.
+    void Ignore(std::vector<std::string> aRules) { m_ignored = std::move(aRules); }
+    bool IsIgnored(std::string_view aRule) const noexcept;
+    /// Puts what is kept into the order of a key, equal ones as they were.
+    template<typename Key>
+    void SortBy(Key aKey)
+    {
+        std::stable_sort(m_kept.begin(), m_kept.end(), [&](const Entry& aFirst, const Entry& aSecond) {
+            return aKey(aFirst.finding) < aKey(aSecond.finding);
+        });
+    }
 
     bool IsEmpty() const noexcept { return Count() == 0; }
     std::size_t Count() const noexcept { return m_counts[0] + m_counts[1] + m_counts[2]; }
@@ -54,6 +69,9 @@ public:
     std::size_t Errors(const FindingMark& aSince = {}) const noexcept;
     std::size_t Warnings(const FindingMark& aSince = {}) const noexcept;
     std::size_t LeftOut() const noexcept { return Count() - m_kept.size(); }
+    std::array<std::size_t, 3> LeftOutByLevel() const noexcept;
+    /// Counts findings that another list has left out.
+    void AddCounts(const std::array<std::size_t, 3>& aCounts) noexcept;
 
     FindingMark Now() const noexcept { return {m_kept.size(), m_counts}; }
     std::size_t KeptCount() const noexcept { return m_kept.size(); }
@@ -82,6 +100,7 @@ private:
 
     std::string Joined(bool aErrors, const FindingMark& aSince, std::string_view aJoin, bool aLines) const;
 
+    std::vector<std::string> m_ignored;
     std::vector<Entry> m_kept;
     std::size_t m_bytes = 0;
     std::array<std::size_t, 3> m_counts{};
@@ -95,6 +114,10 @@ std::string Block(const Finding& aFinding);
 Finding MakeFinding(Finding::Level aLevel, std::string_view aSentence, std::string_view aOwner = {},
                     std::string_view aField = {});
 /// A finding that is a sentence of its own; the level is that of its prefix.
-Finding MakeFinding(std::string_view aSentence);
+Finding MakeFinding(std::string_view aSentence, std::string_view aRule = {});
+/// Gives a finding another level, which its sentence says too.
+void SetLevel(Finding& aFinding, Finding::Level aLevel);
+/// What a sentence of that level begins with.
+std::string_view LevelPrefix(Finding::Level aLevel) noexcept;
 
 }  // namespace ORMO::SensorModel::CSM::Detail

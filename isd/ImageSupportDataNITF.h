@@ -12,6 +12,7 @@
 #include "../segments/symbol/NITF20SymbolSubheader.h"
 #include "../segments/text/NITFTextSubheader.h"
 #include "ImageSupportData.h"
+#include "ValidationRules.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -389,7 +390,11 @@ public:
     /// The same for graphics, symbols and labels only.
     const char* GetVersionSpecificSerializedXMLMetadata(const char* aSegment, int aIndex);
 
+    /// Holds the file against every rule (ValidationRules). The result and its report are kept: a second call only
+    /// answers them. Raises nothing.
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
+    /// The same as often as it is called, by rules and moment of the caller's choice.
+    bool Validate(const ValidationOptions& aOptions, unsigned long& aErrors, unsigned long& aWarnings);
     /// The findings of the last rigorous validation, those of reading included, errors first.
     std::vector<Finding> GetValidationFindings() const;
     /// The same as lines for a person.

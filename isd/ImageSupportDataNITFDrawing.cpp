@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace ORMO::SensorModel::CSM {
@@ -18,12 +19,14 @@ bool IsDrawn(const NITFFieldSegment* aSegment)
 }
 
 /// Adds a finding about one of the fields with which a segment is drawn.
-void Warn(const NITFFieldSegment& aSegment, const char* aField, const std::string& aText,
+void Warn(const NITFFieldSegment& aSegment, const char* aRule, const char* aField, const std::string& aText,
           Detail::FindingList& aFindings)
 {
     const Detail::FindingMark mark = aFindings.Now();
     const NITFStdDataSegmentInfo* const info = aSegment.GetNITFStdDataSegmentInfo();
-    aFindings.Add(aSegment.Inside().About("WARN: " + aText, aField));
+    Finding finding = aSegment.Inside().About("WARN: " + aText, aField);
+    finding.rule = aRule;
+    aFindings.Add(std::move(finding));
     aFindings.PlaceAt(mark, aSegment.Inside().layout->Owner(), info->GetSegmentIndex());
 }
 
@@ -52,7 +55,7 @@ void Detail::PlaceDrawnSegments(ImageSupportDataNITF::Parts& aParts, FindingList
         }
         const std::uint64_t level = segment->GetDataSegmentDisplayLevel();
         if (level != 0 && !levels.try_emplace(level, segments.size()).second) {
-            Warn(*segment, segment->Inside().layout->kind->drawing.displayLevel,
+            Warn(*segment, "DL-01", segment->Inside().layout->kind->drawing.displayLevel,
                  "An earlier segment has the same display level; the order in the file decides which one is drawn "
                  "first.",
                  aFindings);
@@ -66,12 +69,12 @@ void Detail::PlaceDrawnSegments(ImageSupportDataNITF::Parts& aParts, FindingList
         const char* const field = segments[i]->Inside().layout->kind->drawing.attachmentLevel;
         segments[i]->SetAttachedTo(offsets[i].column, offsets[i].row);
         if (offsets[i].fault == AttachmentFault::NoParent) {
-            Warn(*segments[i], field,
+            Warn(*segments[i], "DL-02", field,
                  "No segment has the display level " + std::to_string(places[i].attachmentLevel) +
                      " to which this one is attached; its location counts from the origin.",
                  aFindings);
         } else if (offsets[i].fault == AttachmentFault::Cycle) {
-            Warn(*segments[i], field,
+            Warn(*segments[i], "DL-02", field,
                  "The segment of display level " + std::to_string(places[i].displayLevel) +
                      " is attached to itself by way of level " + std::to_string(places[i].attachmentLevel) +
                      "; its location counts from the origin.",

@@ -158,18 +158,21 @@ void FileReader::CheckLengths()
     const std::uint64_t sum = SumOfLengths();
     const bool unknown = header.FieldText("FL") == NITFCnst::STR_VAL_999999999999;
     if ((fileLength != sum || fileLength != size) && !unknown) {
-        m_findings.Add(header.Inside().About("WARN: FL says " + std::to_string(fileLength) +
-                                                 " byte(s), the segment tables add up to " + std::to_string(sum) +
-                                                 ", the file has " + std::to_string(size) +
-                                                 "; the segment tables decide where things are.",
-                                             "FL"));
+        Finding finding = header.Inside().About("WARN: FL says " + std::to_string(fileLength) +
+                                                    " byte(s), the segment tables add up to " + std::to_string(sum) +
+                                                    ", the file has " + std::to_string(size) +
+                                                    "; the segment tables decide where things are.",
+                                                "FL");
+        finding.rule = fileLength != sum ? "FH-03" : "FH-04";
+        m_findings.Add(std::move(finding));
     }
     for (const Info* const info : m_parts.infos.InFileOrder()) {
         const std::uint64_t end = info->GetSegmentDataStart() + info->GetSegmentDataSize();
         if (info->GetSegmentDataStart() <= size && end > size) {
             Finding finding = Detail::MakeFinding("WARN: The data end at byte " + std::to_string(end) +
-                                                  ", beyond the end of the file at " + std::to_string(size) +
-                                                  "; they are not available.");
+                                                      ", beyond the end of the file at " + std::to_string(size) +
+                                                      "; they are not available.",
+                                                  "RD-01");
             finding.segment = NITFStdDataSegment::GetDataSegmentName(info->GetDataSegmentType());
             finding.index = info->GetSegmentIndex();
             finding.offset = info->GetSegmentDataStart();

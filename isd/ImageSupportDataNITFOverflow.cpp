@@ -19,10 +19,10 @@ std::string Target(NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::str
     return SegmentName(aKind, aIndex) + " area " + std::string(aArea);
 }
 
-void Warn(FindingList& aFindings, NITFCnst::DataSegmentType aKind, std::size_t aIndex, std::string_view aArea,
-          const std::string& aText)
+void Warn(FindingList& aFindings, const char* aRule, NITFCnst::DataSegmentType aKind, std::size_t aIndex,
+          std::string_view aArea, const std::string& aText)
 {
-    Finding finding = MakeFinding("WARN: " + aText);
+    Finding finding = MakeFinding("WARN: " + aText, aRule);
     finding.segment = NITFStdDataSegment::GetDataSegmentName(aKind);
     if (aKind != NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER) {
         finding.index = static_cast<int>(aIndex);
@@ -43,12 +43,13 @@ void PlaceTREs(Parts& aParts, std::size_t aDes, std::vector<std::string>& aTarge
     const auto place = static_cast<std::size_t>(index);
     const std::string target = Target(kind, place, area);
     const std::string name = "DES " + std::to_string(aDes + 1);
-    const auto warn = [&](const std::string& aText) {
-        Warn(aFindings, NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aDes, area, aText);
+    const auto warn = [&](const char* aRule, const std::string& aText) {
+        Warn(aFindings, aRule, NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION, aDes, area, aText);
     };
     const bool exists = kind == NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER ? place == 0 : place < aParts.Count(kind);
     if (!exists) {
-        warn("Overflow " + name + " names " + target + ", which is not in the file; its TREs stay on the DES.");
+        warn("DE-02",
+             "Overflow " + name + " names " + target + ", which is not in the file; its TREs stay on the DES.");
         return;
     }
     NITFFieldSegment* const owner = aParts.Segment(kind, place);
@@ -56,7 +57,7 @@ void PlaceTREs(Parts& aParts, std::size_t aDes, std::vector<std::string>& aTarge
         return;  // left out or not to be read: the TREs stay on the DES
     }
     if (std::find(aTargets.begin(), aTargets.end(), target) != aTargets.end()) {
-        warn("Overflow " + name + " is a further one for " + target + "; both are placed in file order.");
+        warn("DE-04", "Overflow " + name + " is a further one for " + target + "; both are placed in file order.");
     }
     aTargets.push_back(target);
     des->PlaceOverflowTREs(*owner);
@@ -64,8 +65,9 @@ void PlaceTREs(Parts& aParts, std::size_t aDes, std::vector<std::string>& aTarge
         const std::string_view text = owner->FieldText(one.overflow);
         std::uint64_t number = 0;
         if (area == one.area && (!ToCount(text, number) || number != aDes + 1)) {
-            warn("Overflow " + name + " names " + target + ", whose " + one.overflow +
-                 (text.data() == nullptr ? " does not stand" : " is " + Shown(text)) + "; the DES decides.");
+            warn("DE-03", "Overflow " + name + " names " + target + ", whose " + one.overflow +
+                              (text.data() == nullptr ? " does not stand" : " is " + Shown(text)) +
+                              "; the DES decides.");
         }
     }
 }
@@ -84,7 +86,7 @@ void CheckNumbers(const Parts& aParts, NITFCnst::DataSegmentType aKind, std::siz
             continue;
         }
         const auto warn = [&](const std::string& aText) {
-            Warn(aFindings, aKind, aIndex, area.area,
+            Warn(aFindings, "DE-03", aKind, aIndex, area.area,
                  Target(aKind, aIndex, area.area) + ": " + area.overflow + ' ' + Shown(text) + aText);
         };
         const std::size_t count = aParts.Count(NITFCnst::DATA_SEGMENT_TYPE_DATA_EXTENSION);

@@ -1,89 +1,122 @@
-// The validation of a NITF file and its report.
+// The rigorous validation of a whole file: every header by itself, the rules across headers, and what reading found.
 
-#include "fields/Xml.h"
 #include "isd/detail/IsdParts.h"
-#include "isd/detail/XmlFrame.h"
+#include "isd/detail/rules/FileView.h"
+#include "isd/detail/rules/ValidationReport.h"
 #include "segments/detail/SegmentLayout.h"
 
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <exception>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace ORMO::SensorModel::CSM {
 
 namespace {
 
-/// A summary of what was found in one segment at one level: its name and a line for each finding.
-void AppendSummary(std::string& aXml, std::string_view aLevel, std::string_view aName,
-                   const std::vector<std::string>& aLines)
+using Parts = ImageSupportDataNITF::Parts;
+
+std::string MomentOfCall()
 {
-    if (aLines.empty()) {
-        return;
-    }
-    aXml += "  <Summary";
-    Detail::AppendXmlAttribute("type", aLevel, aXml);
-    aXml += ">\n";
-    if (!aName.empty()) {
-        aXml += "      ";
-        Detail::AppendXmlText(aName, aXml);
-        aXml += '\n';
-    }
-    for (const std::string& line : aLines) {
-        aXml += "      ";
-        Detail::AppendXmlText(line, aXml);
-        aXml += '\n';
-    }
-    aXml += "    </Summary>\n";
+    const std::time_t now = std::time(nullptr);
+    std::tm utc{};
+    ::gmtime_r(&now, &utc);
+    std::array<char, 16> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), "%Y%m%d%H%M%S", &utc);
+    return {text.data(), length};
 }
 
-/// The summaries of all findings of a level; those of one segment follow each other.
-void AppendSummaries(std::string& aXml, const Detail::FindingList& aFindings, bool aErrors)
+/// Adds what reading found. Where a rule has looked itself, that says more; else the finding takes the level that the
+/// rule has: a fault that does not keep a file from being read may be an error of the file.
+void AddReading(const Detail::FindingList& aReading, Detail::FindingList& aFindings)
 {
-    const char* const level = aErrors ? "ERROR" : "WARN";
-    std::string name;
-    std::vector<std::string> lines;
-    for (std::size_t i = 0; i != aFindings.KeptCount(); ++i) {
-        const Finding& finding = aFindings.Kept(i);
-        if ((finding.level != Finding::Level::Warning) != aErrors) {
+    for (std::size_t i = 0; i != aReading.KeptCount(); ++i) {
+        const Detail::Rule* const rule = Detail::FindRule(aReading.Kept(i).rule);
+        if (rule != nullptr && rule->HasCheck()) {
             continue;
         }
-        std::string segment = finding.segment;
-        segment += finding.index == Finding::NO_INDEX ? "" : ' ' + std::to_string(finding.index);
-        if (segment != name) {
-            AppendSummary(aXml, level, name, lines);
-            lines.clear();
-            name = std::move(segment);
+        Finding finding = aReading.Kept(i);
+        if (rule != nullptr) {
+            Detail::SetLevel(finding, std::max(finding.level, rule->level));
+            finding.clause = rule->source;
         }
-        lines.push_back(finding.Line());
+        aFindings.Add(std::move(finding));
     }
-    if (!aErrors && aFindings.LeftOut() != 0) {
-        lines.push_back(aFindings.LeftOutLine());
+    aFindings.AddCounts(aReading.LeftOutByLevel());
+}
+
+/// Where a finding stands among the others: those of the file first, then the file header, then segments in file order.
+std::size_t PlaceOf(const Finding& aFinding, const Parts& aParts)
+{
+    if (aFinding.segment.empty()) {
+        return 0;
     }
-    AppendSummary(aXml, level, name, lines);
+    const NITFStdDataSegmentInfos::Infos* const kind = aParts.infos.Get(aFinding.segment.c_str());
+    const auto index = static_cast<std::size_t>(std::max(aFinding.index, 0));
+    return kind == nullptr || index >= kind->size()
+               ? 1
+               : 2 + static_cast<std::size_t>((*kind)[index]->GetGlobalSegmentIndex());
+}
+
+void Check(const Parts& aParts, std::string_view aNow, Detail::FindingList& aFindings)
+{
+    Detail::CheckSegment(*aParts.header, aFindings);
+    for (const std::unique_ptr<NITFFieldSegment>& segment : aParts.segments) {
+        if (segment != nullptr) {
+            Detail::CheckSegment(*segment, aFindings);
+        }
+    }
+    const Detail::FileView file(aParts, aNow);
+    for (const auto family : Detail::FILE_RULES) {
+        for (const Detail::Rule& rule : family()) {
+            if (rule.checkFile != nullptr && rule.AppliesTo(file.Header().Version())) {
+                rule.checkFile(file, Detail::Report(rule, aFindings));
+            }
+        }
+    }
+    AddReading(aParts.findings, aFindings);
+    aFindings.SortBy([&aParts](const Finding& aFinding) { return PlaceOf(aFinding, aParts); });
 }
 
 }  // namespace
 
+bool ImageSupportDataNITF::Validate(const ValidationOptions& aOptions, unsigned long& aErrors, unsigned long& aWarnings)
+{
+    Detail::FindingList& findings = m_parts->validation;
+    findings.Clear();
+    findings.Ignore(aOptions.ignored);
+    if (m_parts->header == nullptr) {
+        m_validationSummaryReport = Detail::ValidationReport(
+            "System failed to initialize properly. The NITF file header information is missing.");
+        m_validationErrorCount = 1;
+        m_validationWarningCount = 0;
+    } else {
+        try {
+            Check(*m_parts, aOptions.now.empty() ? MomentOfCall() : aOptions.now, findings);
+            m_validationSummaryReport = Detail::ValidationReport(findings);
+            m_validationErrorCount = findings.Errors();
+            m_validationWarningCount = findings.Warnings();
+        } catch (const std::exception&) {
+            findings.Clear();
+            m_validationSummaryReport =
+                Detail::ValidationReport("Exception caught while generating validation summary report.");
+            m_validationErrorCount = 1;
+            m_validationWarningCount = 0;
+        }
+    }
+    m_rigorouslyValidated = true;
+    aErrors = m_validationErrorCount;
+    aWarnings = m_validationWarningCount;
+    return aErrors == 0;
+}
+
 bool ImageSupportDataNITF::RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings)
 {
     if (!m_rigorouslyValidated || m_validationSummaryReport.empty()) {
-        Detail::FindingList& findings = m_parts->validation;
-        findings.Clear();
-        Detail::CheckSegment(*m_parts->header, findings);
-        for (const std::unique_ptr<NITFFieldSegment>& segment : m_parts->segments) {
-            if (segment != nullptr) {
-                Detail::CheckSegment(*segment, findings);
-            }
-        }
-        findings.Add(m_parts->findings);
-        std::string report;
-        Detail::OpenDocument(report, NITFCnst::XML_ELEMENT_NITF_VALIDATION_SUMMARY,
-                             NITFCnst::XML_SCHEMA_FILE_VALIDATION_SUMMARY, "1.0");
-        AppendSummaries(report, findings, true);
-        AppendSummaries(report, findings, false);
-        Detail::CloseDocument(report, NITFCnst::XML_ELEMENT_NITF_VALIDATION_SUMMARY);
-        m_validationErrorCount = findings.Errors();
-        m_validationWarningCount = findings.Warnings();
-        m_validationSummaryReport = std::move(report);
-        m_rigorouslyValidated = true;
+        return Validate({}, aErrors, aWarnings);
     }
     aErrors = m_validationErrorCount;
     aWarnings = m_validationWarningCount;

@@ -38,7 +38,7 @@ NITFFieldSegment::Input& Checked(const NITFFieldSegment::Layout& aLayout, NITFFi
     }
     if (!text.empty()) {
         const Detail::FindingMark mark = aInput.Findings().Now();
-        aInput.Findings().Add(Detail::MakeFinding(text), text);
+        aInput.Findings().Add(Detail::MakeFinding(text, "RD-09"), text);
         aInput.Findings().PlaceAt(mark, aLayout.Owner(), number);
         throw ImageSupportDataConstructionException(text.c_str(), source);
     }

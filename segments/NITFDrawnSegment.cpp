@@ -57,7 +57,7 @@ void NITFDrawnSegment::ReadMetafile(std::string_view aBytes, Input& aInput, std:
     try {
         m_metafile = std::make_shared<NITFCGMMetaFile>(aBytes.data(), attachment, display, row, column, aBytes.size());
     } catch (const std::invalid_argument&) {
-        Finding finding = Detail::MakeFinding("WARN: The metafile is not read: it cannot have this place.");
+        Finding finding = Detail::MakeFinding("WARN: The metafile is not read: it cannot have this place.", "RD-06");
         finding.detail = "The display level is " + std::to_string(display) + ", the attachment level " +
                          std::to_string(attachment) + ", the location row " + std::to_string(row) + " and column " +
                          std::to_string(column);
@@ -66,13 +66,13 @@ void NITFDrawnSegment::ReadMetafile(std::string_view aBytes, Input& aInput, std:
         return;
     }
     if (const CGMFault* const fault = m_metafile->GetFault(); fault != nullptr) {
-        Finding finding = Detail::MakeFinding("WARN: The metafile cannot be read to its end.");
+        Finding finding = Detail::MakeFinding("WARN: The metafile cannot be read to its end.", "RD-06");
         finding.detail = fault->text.substr(ERROR_PREFIX.size());
         finding.offset = aOffset == Finding::NO_OFFSET ? aOffset : aOffset + fault->offset;
         finding.value = aBytes.substr(static_cast<std::size_t>(fault->offset), 16);
         aInput.Findings().Add(std::move(finding));
     } else if (!m_metafile->HasEndOfMetafile() && !aBytes.empty()) {
-        Finding finding = Detail::MakeFinding("WARN: The metafile ends without the element END METAFILE.");
+        Finding finding = Detail::MakeFinding("WARN: The metafile ends without the element END METAFILE.", "CGM-01");
         finding.offset = aOffset;
         aInput.Findings().Add(std::move(finding));
     }

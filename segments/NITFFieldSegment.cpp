@@ -107,6 +107,7 @@ NITFFieldSegment::NITFFieldSegment(const Layout& aLayout, Input& aInput)
     m_parts->layout = &aLayout;
     m_parts->raw = std::move(aInput.raw);
     m_parts->fileOffset = aInput.info.GetSegmentHeaderStart();
+    m_parts->source = aInput.source;
     m_parts->record = Detail::FieldRecord(aLayout.table);
     const Detail::WalkResult result = m_parts->record.Read(m_parts->raw);
     if (!result.IsGood()) {
@@ -119,8 +120,9 @@ NITFFieldSegment::NITFFieldSegment(const Layout& aLayout, Input& aInput)
         const bool blank = surplus.find_first_not_of(' ') == std::string_view::npos;
         Finding finding = Detail::MakeFinding(
             "WARN: The fields of the subheader take " + std::to_string(result.consumed) +
-            " byte(s), the file header says " + std::to_string(m_parts->raw.size()) + "; the " +
-            std::to_string(surplus.size()) + " surplus " + (blank ? "blank(s) are" : "byte(s) are") + " left out.");
+                " byte(s), the file header says " + std::to_string(m_parts->raw.size()) + "; the " +
+                std::to_string(surplus.size()) + " surplus " + (blank ? "blank(s) are" : "byte(s) are") + " left out.",
+            "FH-10");
         finding.offset = m_parts->fileOffset + result.consumed;
         finding.value = surplus.substr(0, 64);
         findings.Add(std::move(finding));

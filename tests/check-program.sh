@@ -220,6 +220,32 @@ bash -n "$work/out" || fail "the completion is no bash"
 mkfifo "$work/fifo"
 expect 2 timeout 5 "$tool" info "$work/fifo"
 
+expect 0 "$tool" rules
+grep -q '^PV-02 ' "$work/out" || fail "rules lists no PV-02"
+expect 0 "$tool" rules pv-02
+expect 1 "$tool" rules XX-99
+expect 0 "$tool" rules --markdown
+cmp -s "$work/out" "$source_dir/docs/rules.md" || fail "docs/rules.md is not what rules --markdown writes"
+# A file whose image says more significant bits than it stores.
+python3 - "$sample" "$work/bad.ntf" <<'END'
+import subprocess, sys
+data = bytearray(open(sys.argv[1], 'rb').read())
+at = data.index(b'IM', 388)
+abpp = data.index(b'VIS     08R', at) + 8
+data[abpp:abpp + 2] = b'09'
+open(sys.argv[2], 'wb').write(data)
+END
+expect 1 "$tool" validate "$work/bad.ntf"
+grep -q 'ERROR  PV-02' "$work/out" || fail "validate does not name the rule"
+grep -q $'\033' "$work/out" && fail "validate colours what is no terminal"
+expect 1 "$tool" validate --quiet "$work/bad.ntf" "$sample"
+[ "$(wc -l <"$work/out")" = 3 ] || fail "validate --quiet is not a line per file and one for all"
+expect 1 "$tool" validate --json "$work/bad.ntf"
+python3 -c 'import json,sys; [json.loads(line)["rule"] for line in sys.stdin]' <"$work/out" || fail "validate --json writes no JSON"
+expect 0 "$tool" validate --ignore PV-02 "$work/bad.ntf"
+expect 2 "$tool" validate --ignore XX-99 "$work/bad.ntf"
+expect 2 "$tool" validate "$work/absent"
+
 ldd "$tool" | grep -q libgdal && fail "libgdal stands behind the program"
 if [ -z "${ORMO_SANITIZED:-}" ] && command -v strace >/dev/null; then
     reads=$(strace -f -e trace=pread64 "$tool" json "$sample" 2>&1 >/dev/null | grep -c pread64 || true)

@@ -16,14 +16,15 @@ extern const Command MANUAL;
 extern const Command PLUGIN;
 extern const Command PREVIEW;
 extern const Command PROPERTY;
+extern const Command RULES;
 extern const Command SCHEMA;
 extern const Command TABLE;
 extern const Command VALIDATE;
 extern const Command XML;
 
 /// In the order in which --help lists them.
-inline constexpr const Command* COMMANDS[] = {&INFO,   &JSON,     &XML,      &VALIDATE,  &TABLE, &DIFF,
-                                              &DUMP,   &PROPERTY, &DESCRIBE, &EXTRACT,   &CGM,   &PREVIEW,
-                                              &SCHEMA, &PLUGIN,   &MANUAL,   &COMPLETION};
+inline constexpr const Command* COMMANDS[] = {&INFO,    &JSON,   &XML,      &VALIDATE, &RULES,     &TABLE,
+                                              &DIFF,    &DUMP,   &PROPERTY, &DESCRIBE, &EXTRACT,   &CGM,
+                                              &PREVIEW, &SCHEMA, &PLUGIN,   &MANUAL,   &COMPLETION};
 
 }  // namespace OrmoNitf

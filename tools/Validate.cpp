@@ -1,12 +1,24 @@
+#include "foundation/CSMUtilString.h"
+#include "isd/ValidationRules.h"
 #include "tools/Commands.h"
+#include "tools/Files.h"
 #include "tools/Isd.h"
+#include "tools/Rules.h"
 
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
 #include <iostream>
+#include <map>
 #include <memory>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
 
 namespace OrmoNitf {
 
@@ -14,47 +26,284 @@ using namespace ORMO::SensorModel::CSM;
 
 namespace {
 
-int Validate(const std::vector<std::string>& aFiles, bool aXml)
+enum class Form
 {
-    int exitCode = EXIT_DONE;
-    for (const std::string& file : aFiles) {
-        const Isd isd = OpenFile(file);
-        if (isd == nullptr) {
-            exitCode = EXIT_WRONG_USE;
-            continue;
+    Text,
+    Quiet,
+    Json,
+    Xml
+};
+
+struct Options
+{
+    FileOptions files;
+    ValidationOptions rules;
+    std::string ignored;
+    bool asXml = false;
+    bool asJson = false;
+    bool quiet = false;
+
+    Form TheForm() const noexcept { return asXml ? Form::Xml : asJson ? Form::Json : quiet ? Form::Quiet : Form::Text; }
+};
+
+/// What all files together have.
+struct Totals
+{
+    std::atomic<unsigned long> files = 0;
+    std::atomic<unsigned long> withErrors = 0;
+    std::atomic<unsigned long> refused = 0;
+    std::atomic<unsigned long> errors = 0;
+    std::atomic<unsigned long> warnings = 0;
+};
+
+bool UsesColour()
+{
+    const char* const refused = std::getenv("NO_COLOR");
+    return ::isatty(STDOUT_FILENO) != 0 && (refused == nullptr || *refused == '\0');
+}
+
+std::string Coloured(const std::string& aText, const char* aCode)
+{
+    static const bool uses = UsesColour();
+    return uses ? "\033[" + std::string(aCode) + 'm' + aText + "\033[0m" : aText;
+}
+
+/// Without a byte that could steer a terminal.
+std::string Printable(std::string aText)
+{
+    Finding finding;
+    finding.sentence = std::move(aText);
+    return finding.Line();
+}
+
+std::string Counted(unsigned long aCount, const char* aWord)
+{
+    return std::to_string(aCount) + ' ' + aWord + (aCount == 1 ? "" : "s");
+}
+
+bool IsError(const Finding& aFinding) noexcept
+{
+    return aFinding.level != Finding::Level::Warning;
+}
+
+const char* LevelWord(const Finding& aFinding) noexcept
+{
+    return aFinding.level == Finding::Level::Warning ? "WARN"
+           : aFinding.level == Finding::Level::Error ? "ERROR"
+                                                     : "FATAL";
+}
+
+/// The sentence without the level that it begins with.
+std::string Sentence(const Finding& aFinding)
+{
+    const auto colon = aFinding.sentence.find(": ");
+    std::string text = aFinding.sentence.compare(0, colon, LevelWord(aFinding)) == 0
+                           ? aFinding.sentence.substr(colon + 2)
+                           : aFinding.sentence;
+    if (!aFinding.field.empty() && (text.empty() || text.back() != '.')) {
+        text += ' ' + aFinding.owner + "::" + aFinding.field;
+    }
+    return text;
+}
+
+void AppendPart(std::string& aText, const char* aJoin, const std::string& aPart)
+{
+    if (!aPart.empty()) {
+        aText += (aText.empty() ? "" : aJoin) + aPart;
+    }
+}
+
+/// What was found and, beside it, what is wanted.
+std::string Facts(const Finding& aFinding)
+{
+    std::string text;
+    if (!aFinding.tre.empty()) {
+        AppendPart(text, "", "TRE " + aFinding.tre + (aFinding.turn > 1 ? ' ' + std::to_string(aFinding.turn) : ""));
+        AppendPart(text, " in ", aFinding.area);
+    }
+    AppendPart(text, ", ", aFinding.field);
+    Finding value;
+    value.value = aFinding.value;
+    AppendPart(text, " ", value.Place());
+    AppendPart(text, ", ", aFinding.allowed.empty() ? "" : "wanted " + aFinding.allowed);
+    if (aFinding.offset != Finding::NO_OFFSET) {
+        AppendPart(text, " ", "(byte " + std::to_string(aFinding.offset) + ')');
+    }
+    AppendPart(text, ": ", aFinding.detail);
+    return text;
+}
+
+void PrintFinding(const Finding& aFinding)
+{
+    constexpr std::size_t LEVEL_WIDTH = 7;
+    constexpr std::size_t RULE_WIDTH = 8;
+    std::string level = LevelWord(aFinding);
+    std::string rule = aFinding.rule;
+    level.resize(std::max(level.size(), LEVEL_WIDTH), ' ');
+    rule.resize(std::max(rule.size(), RULE_WIDTH), ' ');
+    Results() << "    " << Coloured(level, IsError(aFinding) ? "31" : "33") << rule << Printable(Sentence(aFinding))
+              << '\n';
+    const std::string facts = Facts(aFinding);
+    if (!facts.empty()) {
+        Results() << std::string(4 + LEVEL_WIDTH + RULE_WIDTH, ' ') << Printable(facts) << '\n';
+    }
+}
+
+std::string SegmentOf(const Finding& aFinding)
+{
+    return aFinding.index == Finding::NO_INDEX ? aFinding.segment
+                                               : aFinding.segment + ' ' + std::to_string(aFinding.index);
+}
+
+/// The findings by segment, in the order of the file, errors first.
+void PrintFindings(const ImageSupportDataNITF& aIsd, const std::vector<Finding>& aFindings)
+{
+    std::map<std::string, std::vector<const Finding*>> bySegment;
+    for (const Finding& finding : aFindings) {
+        bySegment[SegmentOf(finding)].push_back(&finding);
+    }
+    const auto print = [&bySegment](const std::string& aSegment) {
+        const auto found = bySegment.find(aSegment);
+        if (found == bySegment.end()) {
+            return;
         }
-        unsigned long errors = 0;
-        unsigned long warnings = 0;
-        const bool good = isd->RigorousValidation(errors, warnings);
-        if (!good && exitCode == EXIT_DONE) {
-            exitCode = EXIT_FILE_HAS_ERRORS;
+        Results() << "  " << Coloured(aSegment.empty() ? "File" : aSegment, "1") << '\n';
+        for (const Finding* const finding : found->second) {
+            PrintFinding(*finding);
         }
-        if (aXml) {
-            std::cout << isd->GetValidationSummaryReport();
-            continue;
+        bySegment.erase(found);
+    };
+    print("");
+    print(NITFStdDataSegment::GetDataSegmentName(NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER));
+    for (const NITFStdDataSegmentInfo* const info : aIsd.GetSegmentInfos().InFileOrder()) {
+        print(std::string(NITFStdDataSegment::GetDataSegmentName(info->GetDataSegmentType())) + ' ' +
+              std::to_string(info->GetSegmentIndex()));
+    }
+    while (!bySegment.empty()) {
+        print(std::string(bySegment.begin()->first));
+    }
+}
+
+/// Bytes of a file as a text of JSON: Latin-1, control bytes as what they are.
+std::string Latin1(const std::string& aBytes)
+{
+    std::string text;
+    Util::CSMUtilString::AppendLatin1AsUtf8(aBytes, text);
+    return text;
+}
+
+void PrintJson(const std::string& aFile, const Finding& aFinding)
+{
+    using Object = nlohmann::ordered_json;
+    const auto text = [](const std::string& aText) { return aText.empty() ? Object(nullptr) : Object(Latin1(aText)); };
+    Object line{{"file", aFile},
+                {"level", LevelWord(aFinding)},
+                {"rule", text(aFinding.rule)},
+                {"segment", text(aFinding.segment)},
+                {"index", aFinding.index == Finding::NO_INDEX ? Object(nullptr) : Object(aFinding.index)},
+                {"tre", text(aFinding.tre)},
+                {"turn", aFinding.turn == 0 ? Object(nullptr) : Object(aFinding.turn)},
+                {"area", text(aFinding.area)},
+                {"field", text(aFinding.field)},
+                {"value", text(aFinding.value)},
+                {"allowed", text(aFinding.allowed)},
+                {"clause", text(aFinding.clause)},
+                {"offset", aFinding.offset == Finding::NO_OFFSET ? Object(nullptr) : Object(aFinding.offset)},
+                {"sentence", Latin1(aFinding.sentence)},
+                {"detail", text(aFinding.detail)}};
+    // A path may hold any bytes.
+    Results() << line.dump(-1, ' ', false, Object::error_handler_t::replace) << '\n';
+}
+
+int ValidateFile(const std::string& aFile, const Options& aOptions, Totals& aTotals)
+{
+    const Isd isd = OpenFile(aFile, {.salvage = aOptions.files.salvage});
+    ++aTotals.files;
+    if (isd == nullptr) {
+        ++aTotals.refused;
+        return EXIT_WRONG_USE;
+    }
+    unsigned long errors = 0;
+    unsigned long warnings = 0;
+    const bool good = isd->Validate(aOptions.rules, errors, warnings);
+    aTotals.errors += errors;
+    aTotals.warnings += warnings;
+    aTotals.withErrors += good ? 0 : 1;
+    const std::vector<Finding> findings = isd->GetValidationFindings();
+    const Form form = aOptions.TheForm();
+    if (form == Form::Xml) {
+        Results() << isd->GetValidationSummaryReport();
+    } else if (form == Form::Json) {
+        for (const Finding& finding : findings) {
+            PrintJson(aFile, finding);
         }
-        Finding summary;
-        summary.sentence =
-            file + ": " + std::to_string(errors) + " error(s), " + std::to_string(warnings) + " warning(s)";
-        std::cout << summary.Line() << '\n';
-        for (const std::string& line : isd->GetValidationLines()) {
-            std::cout << "  " << line << '\n';
+    } else {
+        Results() << Coloured(Printable(aFile + ": " + Counted(errors, "error") + ", " + Counted(warnings, "warning")),
+                              good ? "32" : "31")
+                  << '\n';
+        if (form == Form::Text) {
+            PrintFindings(*isd, findings);
+            const unsigned long left = errors + warnings - static_cast<unsigned long>(findings.size());
+            if (left != 0 && left <= errors + warnings) {
+                Results() << "  " << left << " further messages are left out.\n";
+            }
         }
+    }
+    return good ? EXIT_DONE : EXIT_FILE_HAS_ERRORS;
+}
+
+void PrintTotals(const Totals& aTotals)
+{
+    std::cout << Counted(aTotals.files, "file") << ", " << aTotals.withErrors << " with errors"
+              << (aTotals.refused == 0 ? "" : ", " + std::to_string(aTotals.refused) + " cannot be opened") << ": "
+              << Counted(aTotals.errors, "error") << ", " << Counted(aTotals.warnings, "warning") << '\n';
+}
+
+/// Takes the rules that are left out and the moment; says what is none.
+bool AreRulesKnown(const std::string& aIgnored, ValidationOptions& aRules)
+{
+    std::istringstream ids(aIgnored);
+    for (std::string id; std::getline(ids, id, ',');) {
+        const ValidationRule* const rule = ValidationRules::Find(id.c_str());
+        if (rule == nullptr) {
+            PrintNoRule(id);
+            return false;
+        }
+        aRules.ignored.emplace_back(rule->id);
+    }
+    const std::string& now = aRules.now;
+    if (!now.empty() && (now.size() != 14 || now.find_first_not_of("0123456789") != std::string::npos)) {
+        std::cerr << "ormo-nitf: ERROR: " << Printable(now) << " is no moment, CCYYMMDDhhmmss.\n";
+        return false;
+    }
+    return true;
+}
+
+int Validate(Options& aOptions)
+{
+    if (!AreRulesKnown(aOptions.ignored, aOptions.rules)) {
+        return EXIT_WRONG_USE;
+    }
+    Totals totals;
+    const int exitCode =
+        ForEachFile(aOptions.files, [&](const std::string& aFile) { return ValidateFile(aFile, aOptions, totals); });
+    const Form form = aOptions.TheForm();
+    if (totals.files > 1 && (form == Form::Text || form == Form::Quiet)) {
+        PrintTotals(totals);
     }
     return exitCode;
 }
 
 Action DeclareValidate(CLI::App& aApp)
 {
-    struct Options
-    {
-        std::vector<std::string> files;
-        bool asXml = false;
-    };
     auto options = std::make_shared<Options>();
     aApp.add_flag("--xml", options->asXml, "The report as an XML document");
-    aApp.add_option("FILE", options->files, "NITF or NSIF files")->required();
-    return [options] { return Validate(options->files, options->asXml); };
+    aApp.add_flag("--json", options->asJson, "One JSON object per finding and line")->excludes("--xml");
+    aApp.add_flag("-q,--quiet", options->quiet, "A line per file and no findings");
+    aApp.add_option("--ignore", options->ignored, "Rules that are left out: PV-05,BD-12");
+    aApp.add_option("--now", options->rules.now, "The moment after which a date lies in the future, CCYYMMDDhhmmss");
+    AddFileOptions(aApp, options->files, true);
+    return [options] { return Validate(*options); };
 }
 
 }  // namespace
@@ -63,7 +312,7 @@ constexpr Command VALIDATE{.name = "validate",
                            .summary = "What the standards' rules find",
                            .examples =
                                "validate image.ntf\n"
-                               "validate --xml image.ntf > report.xml",
+                               "validate --json --ignore FH-06,DL-06 -r directory",
                            .exitCodes = "0 no errors, 1 a file has errors, 2 wrong use or a file that cannot be opened",
                            .declare = DeclareValidate};
 

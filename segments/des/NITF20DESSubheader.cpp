@@ -1,7 +1,6 @@
 #include "segments/des/NITF20DESSubheader.h"
 
 #include "foundation/detail/Ascii.h"
-#include "segments/des/detail/DesCheck.h"
 #include "segments/detail/SecurityRows.h"
 #include "segments/detail/SegmentLayout.h"
 
@@ -61,8 +60,7 @@ constexpr NITFFieldSegment::Layout LAYOUT{
     .words = &DES_WORDS,
     .table = TABLE.View(),
     .summary =
-        "ERROR: Failed to get all the NITF 2.0 DES subheader field values from the input DES subheader data stream.",
-    .check = &CheckDesSegment};
+        "ERROR: Failed to get all the NITF 2.0 DES subheader field values from the input DES subheader data stream."};
 
 }  // namespace
 

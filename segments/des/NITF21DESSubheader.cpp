@@ -1,7 +1,6 @@
 #include "segments/des/NITF21DESSubheader.h"
 
 #include "foundation/detail/Ascii.h"
-#include "segments/des/detail/DesCheck.h"
 #include "segments/detail/SecurityRows.h"
 #include "segments/detail/SegmentLayout.h"
 
@@ -28,7 +27,7 @@ constexpr FieldRow HEAD[] = {
 };
 constexpr FieldRow BODY[] = {
     WhenBy("DESID is TRE_OVERFLOW", IsOverflow),
-        Field("DESOFLW",  6, Conditional,     Text,        "XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID", "", "DES Overflowed Header Type [XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID]").Locked(),
+        Field("DESOFLW",  6, Conditional,     Text,        "XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID", "", "DES Overflowed Header Type [XHD|IXSHD|SXSHD|TXSHD|UDHD|UDID]").Locked().Rule("DE-01"),
         Field("DESITEM",  3, Conditional,     Digits,      "000..999", "", "DES Data Item Overflowed [000-999]").Locked(),
     End(),
     Field("DESSHL",   4, Required,        Digits,      "0000..9998", "", "DES User-defined Subheader Length [0000-9998]"),
@@ -55,8 +54,7 @@ constexpr NITFFieldSegment::Layout LAYOUT{
     .words = &DES_WORDS,
     .table = TABLE.View(),
     .summary =
-        "ERROR: Failed to get all the NITF 2.1 DES subheader field values from the input DES subheader data stream.",
-    .check = &CheckDesSegment};
+        "ERROR: Failed to get all the NITF 2.1 DES subheader field values from the input DES subheader data stream."};
 
 }  // namespace
 

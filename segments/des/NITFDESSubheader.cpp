@@ -3,15 +3,12 @@
 #include "fields/FieldXml.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
-#include "foundation/CSMMsg.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/des/DesDESDATA.h"
 #include "segments/des/DesDESSHF.h"
 #include "segments/des/SupportedDESDATAs.h"
 #include "segments/des/SupportedDESSHFs.h"
-#include "segments/des/detail/DesCheck.h"
-#include "segments/des/detail/DesParts.h"
 #include "segments/des/detail/XmlProduct.h"
 #include "segments/detail/SegmentLayout.h"
 #include "tre/detail/TreArea.h"
@@ -59,6 +56,7 @@ NITFDESSubheader::NITFDESSubheader(const Layout& aLayout, Input& aInput)
     if (!m_hasTarget) {
         Finding finding =
             Inside().About("WARN: The overflow DES does not say whose TREs it carries, so they stay on it.", "DESITEM");
+        finding.rule = "DE-02";
         finding.field.clear();
         finding.value.clear();
         finding.detail =
@@ -67,7 +65,7 @@ NITFDESSubheader::NITFDESSubheader(const Layout& aLayout, Input& aInput)
     }
     if (GetSegmentDataSize() == 0) {
         Detail::AppendBlock(errors, "ERROR: Input TRE data string is NULL or an empty string.");
-        aInput.Findings().Add(Detail::MakeFinding("WARN: The overflow DES has no data."));
+        aInput.Findings().Add(Detail::MakeFinding("WARN: The overflow DES has no data.", "DE-05"));
     } else {
         Detail::AppendBlock(errors, InitOverflowTREs(aInput));
     }
@@ -174,14 +172,14 @@ std::string NITFDESSubheader::InitOverflowTREs(Input& aInput)
     std::string data;
     if (!ReadData(data)) {
         const std::string text = "The TREs of the overflow DES are not available: " + DataFault() + '.';
-        aInput.Findings().Add(Detail::MakeFinding("WARN: " + text));
+        aInput.Findings().Add(Detail::MakeFinding("WARN: " + text, "RD-09"));
         return "ERROR: " + text;
     }
     const Detail::AreaOfKind target = Detail::FindArea(m_targetArea, Inside().layout->kind->version);
     const bool registered = target.area != nullptr && target.area->registered;
     Detail::ExtractTREs(data, m_carried, {aInput.specificOnly, false}, aInput.byteOrder,
                         {NITFCnst::DES_DESID_TRE_OVERFLOW, GetSegmentDataStart(),
-                         registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION},
+                         registered ? TRE::TRE_TYPE_REGISTERED_EXTENSION : TRE::TRE_TYPE_CONTROLLED_EXTENSION, "DE-05"},
                         aInput.Findings());
     return {};
 }
@@ -210,6 +208,7 @@ void NITFDESSubheader::InitDESSHF(Input& aInput)
     Finding finding = Inside().About(Finding::Level::Warning,
                                      "WARN: The DESSHF does not fit the type of the DES and is kept as it stands.",
                                      NITFCnst::NITF_DES_FIELD_DESSHF);
+    finding.rule = "RD-08";
     // Of the texts that the type has for it the last one says most.
     const std::string_view reason = Detail::ViewOf(message);
     finding.detail = reason.substr(reason.rfind("ERROR: ") == std::string_view::npos ? 0 : reason.rfind("ERROR: ") + 7);
@@ -280,63 +279,6 @@ void NITFDESSubheader::AppendDataElements(Document& aOut) const
         xml += indent + "</" + element + ">\n";
     }
     AppendDataElement(NITFCnst::XML_ELEMENT_DATA, aOut);
-}
-
-namespace {
-
-void CheckTypedFields(const NITFDESSubheader& aDes, Detail::FindingList& aFindings)
-{
-    const DesDESSHF* const subheader = aDes.GetDESSHF();
-    if (subheader == nullptr) {
-        return;
-    }
-    Finding place = aDes.Inside().About(Finding::Level::Error, "", NITFCnst::NITF_DES_FIELD_DESSHF);
-    place.owner = subheader->GetUniqueDESTypeID();
-    place.field.clear();
-    place.value.clear();
-    DesFieldSet::Parts::Of(*subheader).fields.Check(place, aFindings);
-    if (!aDes.IsDataAvailable() || !SupportedDESDATAs::AbleToCreateDESDATA(aDes.GetDESTypeID().c_str())) {
-        return;
-    }
-    std::string fault;
-    const DesDESDATA* const data = aDes.GetDESDATAFields(&fault);
-    place.offset = aDes.GetSegmentDataStart();
-    if (data == nullptr) {
-        place.sentence = "ERROR: The data of the DES do not fit its type.";
-        place.detail = fault;
-        aFindings.Add(std::move(place));
-        return;
-    }
-    DesFieldSet::Parts::Of(*data).fields.Check(place, aFindings);
-    const std::string disagreement = data->CheckAgainst(*subheader);
-    if (!disagreement.empty()) {
-        place.sentence = "ERROR: The data of the DES do not agree with its subheader fields: " + disagreement;
-        aFindings.Add(std::move(place));
-    }
-}
-
-}  // namespace
-
-void Detail::CheckDesSegment(const NITFFieldSegment& aSegment, FindingList& aFindings)
-{
-    const auto& des = dynamic_cast<const NITFDESSubheader&>(aSegment);
-    const NITFFieldSegment::Parts& parts = des.Inside();
-    if (!des.IsTREOverflow()) {
-        CheckTypedFields(des, aFindings);
-        return;
-    }
-    // NITF 2.0 leaves the version of its overflow tags open; a conformance sample has 99.
-    const bool is20 = parts.layout->kind->version == NITFCnst::NITF_VERSION_NUMBER_20;
-    if (!is20 && parts.Number(NITFCnst::NITF_DES_FIELD_DESVER) != 1) {
-        aFindings.Add(parts.About(Finding::Level::Error, CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE,
-                                  NITFCnst::NITF_DES_FIELD_DESVER));
-    }
-    if (parts.Number("DESSHL") != 0) {
-        aFindings.Add(parts.About(Finding::Level::Error, CSMMsg::Error::INVALID_REQUIRED_FIELD_VALUE, "DESSHL"));
-    }
-    if (!des.IsOverflowPlaced()) {
-        CheckTREs(des.GetOverflowTREs(), aFindings);
-    }
 }
 
 }  // namespace ORMO::SensorModel::CSM

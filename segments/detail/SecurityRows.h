@@ -67,9 +67,9 @@ inline constexpr FieldRow SECURITY_20[] = {
     Field(Join<PREFIX, "REL">,   40, Need::Optional, Form::Text, "", "", Join<TITLE, " Releasing Instructions">),
     Field(Join<PREFIX, "CAUT">,  20, Need::Optional, Form::Text, "", "", Join<TITLE, " Classification Authority">),
     Field(Join<PREFIX, "CTLN">,  20, Need::Optional, Form::Text, "", "", Join<TITLE, " Security Control Number">),
-    Field(Join<PREFIX, "DWNG">,   6, Need::Optional, Form::Text, "{YYMMDD}|999998|999999", "", Join<TITLE, " Security Downgrade {YYMMDD}[999998|999999]">),
+    Field(Join<PREFIX, "DWNG">,   6, Need::Optional, Form::Text, "{YYMMDD}|999998|999999", "", Join<TITLE, " Security Downgrade {YYMMDD}[999998|999999]">).Rule("SEC-10"),
     When(Join<PREFIX, "DWNG">, "999998"),
-        Field(Join<PREFIX, "DEVT">, 40, Need::Conditional, Form::Text, "", "", Join<TITLE, " Downgrading Event">),
+        Field(Join<PREFIX, "DEVT">, 40, Need::Conditional, Form::Text, "", "", Join<TITLE, " Downgrading Event">).Rule("SEC-10"),
     End(),
 };
 

@@ -1,7 +1,8 @@
-// The rigorous validation of a header: its rows, its security block, its TREs and the rules of its kind.
+// The rigorous validation of a header: its rows, its TREs, and the rules across fields for which one header is enough.
 
-#include "segments/detail/SecurityCheck.h"
+#include "segments/des/NITFDESSubheader.h"
 #include "segments/detail/SegmentLayout.h"
+#include "segments/detail/rules/FieldChecks.h"
 #include "tre/detail/TreMaker.h"
 
 #include <map>
@@ -26,25 +27,21 @@ void CheckSegment(const NITFFieldSegment& aSegment, FindingList& aFindings)
 {
     const NITFFieldSegment::Parts& parts = aSegment.Inside();
     const FindingMark mark = aFindings.Now();
+    const HeaderView header(aSegment);
     Finding place;
     place.owner = parts.layout->Owner();
     place.offset = parts.fileOffset;
     parts.record.Check(place, aFindings);
-    CheckSecurity(parts, aFindings);
-    for (const ExtensionArea& area : parts.layout->kind->areas) {
-        const FieldEntry* const entry = parts.record.Find(area.area);
-        if (entry != nullptr) {
-            CheckArea(parts.record.Store().Value(*entry), parts.PlaceOf(area, *entry), aFindings);
-        }
-    }
     CheckTREs(parts.tres, aFindings);
     CheckTREs(aSegment.GetOverflowTREStore(), aFindings);
-    if (parts.layout->check != nullptr) {
-        parts.layout->check(aSegment, aFindings);
+    if (const auto* const des = dynamic_cast<const NITFDESSubheader*>(&aSegment);
+        des != nullptr && !des->IsOverflowPlaced()) {
+        CheckTREs(des->GetOverflowTREs(), aFindings);
     }
-    const NITFStdDataSegmentInfo* const info = aSegment.GetNITFStdDataSegmentInfo();
-    const bool numbered = info != nullptr && info->GetDataSegmentType() != NITFCnst::DATA_SEGMENT_TYPE_UNKNOWN;
-    aFindings.PlaceAt(mark, parts.layout->Owner(), numbered ? info->GetSegmentIndex() : Finding::NO_INDEX);
+    CheckMaskFields(header, aFindings);
+    CheckDesFields(header, aFindings);
+    CheckHeaderRules(header, aFindings);
+    aFindings.PlaceAt(mark, parts.layout->Owner(), header.Index());
 }
 
 }  // namespace Detail

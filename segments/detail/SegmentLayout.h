@@ -28,8 +28,6 @@ struct NITFFieldSegment::Layout
     Detail::FieldTable table;
     const char* summary;                   ///< closes the texts of a read that failed without saying why
     const char* requiredPrefix = nullptr;  ///< in place of the words' own
-    /// What the rules of this kind find beyond its rows; null when there are none.
-    void (*check)(const NITFFieldSegment&, Detail::FindingList&) = nullptr;
 
     const char* Owner() const noexcept { return GetDataSegmentName(kind->kind); }
 };
@@ -77,6 +75,7 @@ struct NITFFieldSegment::Parts
     Detail::FieldRecord record;
     TREStore tres;
     std::uint64_t fileOffset = 0;
+    std::shared_ptr<const Detail::ByteSource> source;  ///< of the data; null when there are none to read
     bool placed = false;  ///< whether it is known where the segment stands to which this one is attached
 
     Detail::Lazy<std::vector<const char*>> tags;
@@ -110,7 +109,7 @@ bool AreEqual(const NITFFieldSegment& aLeft, const NITFFieldSegment& aRight);
 const NITFFieldSegment::Layout* LayoutOf(NITFCnst::DataSegmentType aKind, NITFCnst::Version aVersion) noexcept;
 /// What the rows say of the values of all TREs of a store.
 void CheckTREs(const TREStore& aStore, FindingList& aFindings);
-/// Everything that the rules of rows, of security, of TREs and of the kind find in a segment.
+/// Everything that the rows of the header and its TREs and the rules for one header find in a segment.
 void CheckSegment(const NITFFieldSegment& aSegment, FindingList& aFindings);
 
 }  // namespace Detail

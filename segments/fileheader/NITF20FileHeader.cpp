@@ -44,7 +44,7 @@ constexpr FieldRow HEAD[] = {
     Field("CLEVEL",  2, Required,        DigitText,   "01..99", "", "Compliance Level [01-99]").Locked(),
     Field("STYPE",   4, Optional,        Text,        "", "", "System Type [blank]").Locked(),
     Field("OSTAID", 10, Required,        Text,        "", "", "Originating Station ID"),
-    Field("FDT",    14, Required,        Text,        "{DDHHmmSSZMONYY}", "", "File Date and Time {DDHHMMSSZMONYY}"),
+    Field("FDT",    14, Required,        Text,        "{DDHHmmSSZMONYY}", "", "File Date and Time {DDHHMMSSZMONYY}").MildRule("FH-07"),
     Field("FTITLE", 80, Optional,        Text,        "", "", "File Title"),
 };
 constexpr FieldRow BODY[] = {

@@ -23,7 +23,7 @@ constexpr FieldRow HEAD[] = {
     Field("CLEVEL",   2, Required,        DigitText,   "01..99", "", "Complexity Level [01-99]").Locked(),
     Field("STYPE",    4, Required,        Text,        "BF01", "", "Standard Type [BF01]").Locked(),
     Field("OSTAID",  10, Required,        Text,        "", "", "Originating Station ID"),
-    Field("FDT",     14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "File Date and Time {CCYYMMDDhhmmss}"),
+    Field("FDT",     14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "File Date and Time {CCYYMMDDhhmmss}").MildRule("FH-07"),
     Field("FTITLE",  80, RequiredBlank,   Ecs,         "", "", "File Title"),
 };
 constexpr FieldRow BODY[] = {

@@ -167,10 +167,12 @@ NITFFileHeader::NITFFileHeader(const Layout& aLayout, Input& aInput)
     const std::uint64_t consumed =
         entries.empty() ? 0 : Inside().record.Store().Position(entries.back()) + entries.back().length;
     if (consumed != GetFileHeaderLength()) {
-        findings.Add(Inside().About("WARN: The NITF file header fields end after " + std::to_string(consumed) +
-                                        " byte(s), HL says " + std::to_string(GetFileHeaderLength()) +
-                                        " byte(s); HL decides.",
-                                    "HL"));
+        Finding finding =
+            Inside().About("WARN: The NITF file header fields end after " + std::to_string(consumed) +
+                               " byte(s), HL says " + std::to_string(GetFileHeaderLength()) + " byte(s); HL decides.",
+                           "HL");
+        finding.rule = "FH-02";
+        findings.Add(std::move(finding));
     }
     ReadTREs(aInput);
     CheckForTreRPFHDR();

@@ -17,7 +17,7 @@ using enum Detail::Form;
 constexpr FieldRow HEAD[] = {
     Field("IM",        2, Required,        Text,        "IM", "", "File Part Type [IM]"),
     Field("IID",      10, Required,        Text,        "", "", "Image ID"),
-    Field("IDATIM",   14, Required,        Text,        "{DDHHmmSSZMONYY}|blank", "", "Image Date and Time {DDHHMMSSZMONYY}"),
+    Field("IDATIM",   14, Required,        Text,        "{DDHHmmSSZMONYY}|blank", "", "Image Date and Time {DDHHMMSSZMONYY}").MildRule("FH-07"),
     Field("TGTID",    17, Optional,        Text,        "", "", "Target ID {BBBBBBBBBBFFFFFCC}"),
     Field("ITITLE",   80, Optional,        Text,        "", "", "Image Title"),
 };
@@ -34,7 +34,7 @@ constexpr FieldRow BODY[] = {
     Field("ICORDS",    1, Required,        Text,        "U|G|C|N", "", "Image Coordinate System [U|G|C|N]").Locked(),
     WhenFilled("ICORDS"),
         WhenNot("ICORDS", "N"),
-            Field("IGEOLO",   60, Conditional,     Text,        "", "", "Image Geographic Location"),
+            Field("IGEOLO",   60, Conditional,     Text,        "", "", "Image Geographic Location").Rule("GE-01"),
         End(),
     End(),
     Field("NICOM",     1, Required,        Digits,      "0..9", "", "Number of Image Comments [0-9]"),

@@ -26,7 +26,7 @@ bool BandCount(const WalkContext& aContext, std::uint64_t& aOut)
 constexpr FieldRow HEAD[] = {
     Field("IM",        2, Required,        Text,        "IM", "", "File Part Type [IM]"),
     Field("IID1",     10, Required,        Text,        "", "", "Image Identifier 1"),
-    Field("IDATIM",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Image Date and Time {CCYYMMDDhhmmss}"),
+    Field("IDATIM",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Image Date and Time {CCYYMMDDhhmmss}").MildRule("FH-07"),
     Field("TGTID",    17, RequiredBlank,   Text,        "", "", "Target Identifier {BBBBBBBBBBOOOOOCC}"),
     Field("IID2",     80, RequiredBlank,   Ecs,         "", "", "Image Identifier 2"),
 };
@@ -42,7 +42,7 @@ constexpr FieldRow BODY[] = {
     Field("PJUST",     1, Required,        Text,        "L|R", "", "Pixel Justification [L|R]").Locked(),
     Field("ICORDS",    1, RequiredBlank,   Text,        "U|G|N|S|D|P", "", "Image Coordinate Representation [U|G|N|S|D]").Locked(),
     WhenFilled("ICORDS"),
-        Field("IGEOLO",   60, Conditional,     Text,        "", "", "Image Geographic Location"),
+        Field("IGEOLO",   60, Conditional,     Text,        "", "", "Image Geographic Location").Rule("GE-01"),
     End(),
     Field("NICOM",     1, Required,        Digits,      "0..9", "", "Number of Image Comments [0-9]"),
     Repeat("NICOM"),
@@ -54,7 +54,7 @@ constexpr FieldRow BODY[] = {
     End(),
     Field("NBANDS",    1, Required,        Digits,      "0..9", "", "Number of Bands [0-9]"),
     When("NBANDS", "0"),
-        Field("XBANDS",    5, Conditional,     Digits,      "00010..99999", "", "Number of Multispectral Bands [00010-99999]").Locked(),
+        Field("XBANDS",    5, Conditional,     Digits,      "00010..99999", "", "Number of Multispectral Bands [00010-99999]").Locked().Rule("BD-03"),
     End(),
     RepeatBy("NBANDS, or XBANDS when NBANDS is 0", BandCount, "NBANDS"),
         Field("IREPBAND",  2, RequiredBlank,   Text,        "", "", "nth Band Representation [LU|R|G|B|M|Y|Cb|Cr]").Locked(),

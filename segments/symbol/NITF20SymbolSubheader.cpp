@@ -1,7 +1,6 @@
 #include "segments/symbol/NITF20SymbolSubheader.h"
 
 #include "fields/FieldWalk.h"
-#include "foundation/CSMMsg.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/Location.h"
 #include "segments/detail/SecurityRows.h"
@@ -65,19 +64,6 @@ constexpr auto TABLE = MakeTable(ROWS.rows);
 static_assert(TABLE.wellFormed);
 static_assert(FixedWidth(ROWS.rows) == 258);
 
-/// A bitmap that the data cannot hold.
-void CheckSymbolSegment(const NITFFieldSegment& aSegment, FindingList& aFindings)
-{
-    const NITFFieldSegment::Parts& parts = aSegment.Inside();
-    const std::uint64_t bits = parts.Number("NLIPS") * parts.Number("NPIXPL") * parts.Number("NBPP");
-    if (aSegment.FieldText("STYPE") == "B" && (bits + 7) / 8 > aSegment.GetSegmentDataSize()) {
-        aFindings.Add(parts.About(std::string(CSMMsg::Warn::DATA_NOT_STANDARDS_COMPLIANT) + " The data have " +
-                                      std::to_string(aSegment.GetSegmentDataSize()) +
-                                      " byte(s), the pixels of the symbol take " + std::to_string((bits + 7) / 8) + ".",
-                                  "NLIPS"));
-    }
-}
-
 constexpr NITFFieldSegment::Layout LAYOUT{
     .className = "NITF20SymbolSubheader",
     .source = "NITF20SymbolSubheader::InitNITF20SymbolSubheader",
@@ -86,8 +72,7 @@ constexpr NITFFieldSegment::Layout LAYOUT{
     .table = TABLE.View(),
     .summary =
         "ERROR: Failed to get all the NITF 2.0 symbol segment subheader field values from the input symbol "
-        "data stream.",
-    .check = &CheckSymbolSegment};
+        "data stream."};
 
 char FirstOf(std::string_view aText)
 {
@@ -131,10 +116,12 @@ void NITF20SymbolSubheader::InitNITF20SymbolSubheader(Input& aInput)
             MakeObject();
         }
     } catch (const std::invalid_argument&) {
-        aInput.Findings().Add(
+        Finding finding =
             type == 'B'
                 ? Inside().About("WARN: The bitmap of the symbol is not read: it has no bits.", "NBPP")
-                : Inside().About("WARN: The shape of the symbol is not read: its number or rotation is none.", "SNUM"));
+                : Inside().About("WARN: The shape of the symbol is not read: its number or rotation is none.", "SNUM");
+        finding.rule = "RD-07";
+        aInput.Findings().Add(std::move(finding));
     }
 }
 

@@ -3,7 +3,6 @@
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SecurityRows.h"
 #include "segments/detail/SegmentLayout.h"
-#include "segments/text/detail/TextCheck.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -18,7 +17,7 @@ using enum Detail::Form;
 constexpr FieldRow HEAD[] = {
     Field("TE",      2, Required,        Text,        "TE", "", "File Part Type [TE]"),
     Field("TEXTID", 10, Required,        Text,        "", "", "Text ID"),
-    Field("TXTDT",  14, Required,        Text,        "{DDHHmmSSZMONYY}", "", "Text Date and Time {DDHHMMSSZMONYY}"),
+    Field("TXTDT",  14, Required,        Text,        "{DDHHmmSSZMONYY}", "", "Text Date and Time {DDHHMMSSZMONYY}").MildRule("FH-07"),
     Field("TXTITL", 80, Optional,        Text,        "", "", "Text Title"),
 };
 constexpr FieldRow BODY[] = {
@@ -40,8 +39,7 @@ constexpr NITFFieldSegment::Layout LAYOUT{
     .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_TEXT, NITFCnst::NITF_VERSION_NUMBER_20),
     .words = &TEXT_WORDS,
     .table = TABLE.View(),
-    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream.",
-    .check = &CheckTextSegment};
+    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream."};
 
 }  // namespace
 

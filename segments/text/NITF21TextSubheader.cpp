@@ -3,7 +3,6 @@
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SecurityRows.h"
 #include "segments/detail/SegmentLayout.h"
-#include "segments/text/detail/TextCheck.h"
 
 namespace ORMO::SensorModel::CSM {
 
@@ -19,7 +18,7 @@ constexpr FieldRow HEAD[] = {
     Field("TE",       2, Required,        Text,        "TE", "", "File Part Type [TE]"),
     Field("TEXTID",   7, Required,        Text,        "", "", "Text Identifier"),
     Field("TXTALVL",  3, Required,        Digits,      "000..998", "", "Text Attachment Level [000-998]").Locked(),
-    Field("TXTDT",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Text Date and Time {CCYYMMDDhhmmss}"),
+    Field("TXTDT",   14, Required,        NumberText,  "{CCYYMMDDhhmmss}", "", "Text Date and Time {CCYYMMDDhhmmss}").MildRule("FH-07"),
     Field("TXTITL",  80, RequiredBlank,   Ecs,         "", "", "Text Title"),
 };
 constexpr FieldRow BODY[] = {
@@ -41,8 +40,7 @@ constexpr NITFFieldSegment::Layout LAYOUT{
     .kind = FindKind(NITFCnst::DATA_SEGMENT_TYPE_TEXT, NITFCnst::NITF_VERSION_NUMBER_21),
     .words = &TEXT_WORDS,
     .table = TABLE.View(),
-    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream.",
-    .check = &CheckTextSegment};
+    .summary = "ERROR: Failed to get all the NITF text segment subheader field values from the input data stream."};
 
 }  // namespace
 

@@ -46,7 +46,7 @@ TEST(FindingListTest, CountsWithoutEndButKeepsABoundedNumberAndText)
     FindingList list;
     std::size_t made = 0;
     for (int i = 0; i != 1'000'000; ++i) {
-        list.AddMade(Finding::Level::Warning, [&made](FindingList& aList) {
+        list.AddMade(Finding::Level::Warning, "", [&made](FindingList& aList) {
             ++made;
             aList.Add(MakeFinding("WARN: x"));
         });

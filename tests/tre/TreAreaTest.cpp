@@ -153,8 +153,10 @@ TEST_F(TreAreaTest, BytesBehindTheLastTreAreFoundByTheCheckOnly)
     EXPECT_TRUE(m_findings.IsEmpty());
     Check("");
     EXPECT_TRUE(m_findings.IsEmpty());
-    Check("WRONG ABCDEFGH");  // reading has said so
-    EXPECT_TRUE(m_findings.IsEmpty());
+    Check("WRONG ABCDEFGH");
+    EXPECT_EQ(Finding::Level::Error, Found().level);
+    Check(Tre("NOBODY", "x") + std::string(20, '\0'));  // padding
+    EXPECT_EQ(Finding::Level::Warning, Found().level);
 }
 
 TEST_F(TreAreaTest, AnAreaWithoutANameHasNoPlace)

@@ -120,12 +120,14 @@ public:
     {
     }
 
-    /// A warning about the record that was stepped to; `aFill` completes it and answers its text.
+    /// A finding about the record that was stepped to; `aFill` completes it and answers its text.
     template<typename Fill>
-    void Add(std::string_view aSentence, Fill aFill)
+    void Add(std::string_view aSentence, std::string_view aRule, Fill aFill,
+             Finding::Level aLevel = Finding::Level::Warning)
     {
-        m_findings.AddMade(Finding::Level::Warning, [&](FindingList& aList) {
-            Finding finding = MakeFinding(Finding::Level::Warning, aSentence);
+        m_findings.AddMade(aLevel, aRule, [&](FindingList& aList) {
+            Finding finding = MakeFinding(aSentence, aRule);
+            SetLevel(finding, aLevel);
             finding.tre = m_walk.Tag();
             finding.turn = Turn();
             finding.area = ViewOf(m_place.name);
@@ -174,18 +176,20 @@ private:
     std::size_t m_steps = 0;
 };
 
-void ReportEnd(AreaReport& aReport, const AreaWalk& aWalk, AreaWalk::Step aStep, const AreaPlace& aPlace)
+void ReportEnd(AreaReport& aReport, const AreaWalk& aWalk, AreaWalk::Step aStep, const AreaPlace& aPlace,
+               Finding::Level aLevel)
 {
     if (aStep == AreaWalk::Step::NoRecord) {
-        aReport.Add("WARN: The rest of an extension area is ignored: no TRE begins where one must.",
-                    [&](Finding& aFinding) {
-                        aFinding.detail = "The length " + Shown(aWalk.Header().substr(TAG_WIDTH)) +
-                                          " is no number above 0 or the tag is blank.";
-                        return "WARN: The following TRE data stream contains errors, it has been ignored:\n\n" +
-                               AreaText(aWalk.Area());
-                    });
+        const auto fill = [&](Finding& aFinding) {
+            aFinding.detail =
+                "The length " + Shown(aWalk.Header().substr(TAG_WIDTH)) + " is no number above 0 or the tag is blank.";
+            return "WARN: The following TRE data stream contains errors, it has been ignored:\n\n" +
+                   AreaText(aWalk.Area());
+        };
+        aReport.Add("WARN: The rest of an extension area is ignored: no TRE begins where one must.", aPlace.rule, fill,
+                    aLevel);
     } else if (aStep == AreaWalk::Step::Short) {
-        aReport.Add("WARN: The rest of an extension area is ignored: a TRE goes beyond it.", [&](Finding& aFinding) {
+        const auto fill = [&](Finding& aFinding) {
             const std::string lengths = "length claimed = " + std::to_string(aWalk.Length()) +
                                         ", available = " + std::to_string(aWalk.Rest().size() - HEADER_WIDTH);
             aFinding.detail = "Data: " + lengths + '.';
@@ -196,7 +200,8 @@ void ReportEnd(AreaReport& aReport, const AreaWalk& aWalk, AreaWalk::Step aStep,
                         std::to_string(aPlace.offset + aWalk.Offset()) + ", " + lengths + ']';
             }
             return text;
-        });
+        };
+        aReport.Add("WARN: The rest of an extension area is ignored: a TRE goes beyond it.", aPlace.rule, fill, aLevel);
     }
 }
 
@@ -210,6 +215,9 @@ void ReportFault(AreaReport& aReport, const AreaWalk& aWalk, const TreFault& aFa
     aReport.Add(failed  ? FAILED
                 : aKept ? KEPT
                         : LEFT_OUT,
+                failed  ? "RD-05"
+                : aKept ? "RD-03"
+                        : "RD-04",
                 [&](Finding& aFinding) {
                     aFinding.owner = aWalk.Tag();
                     aFinding.value = aWalk.Data().substr(0, 64);
@@ -269,7 +277,7 @@ int ExtractTREs(std::string_view aArea, TREStore& aStore, const AreaOptions& aOp
             ++count;
         }
     }
-    ReportEnd(report, walk, step, aPlace);
+    ReportEnd(report, walk, step, aPlace, Finding::Level::Warning);
     return count;
 }
 
@@ -277,34 +285,41 @@ void CheckArea(std::string_view aArea, const AreaPlace& aPlace, FindingList& aFi
 {
     AreaWalk walk(aArea);
     AreaReport report(walk, aPlace, aFindings);
-    const auto isTagCharacter = [](char aCharacter) { return aCharacter > ' ' && aCharacter <= '~'; };
+    const auto isTagCharacter = [](char aCharacter) {
+        return (aCharacter >= 'A' && aCharacter <= 'Z') || IsDigit(aCharacter) || aCharacter == '_';
+    };
     AreaWalk::Step step = walk.Next();
     for (; step == AreaWalk::Step::Record; step = walk.Next()) {
         const std::string_view tag = walk.Header().substr(0, TAG_WIDTH);
         const std::string_view written = tag.substr(0, tag.find_last_not_of(' ') + 1);
         if (!std::all_of(written.begin(), written.end(), isTagCharacter)) {
-            report.Add("WARN: The tag of a TRE holds a character that no tag may hold.", [&](Finding& aFinding) {
-                aFinding.value = tag;
-                return std::string();
-            });
+            report.Add("WARN: The tag of a TRE holds a character that no tag may hold.", "TR-02",
+                       [&](Finding& aFinding) {
+                           aFinding.value = tag;
+                           return std::string();
+                       });
         }
         const std::string_view length = walk.Header().substr(TAG_WIDTH);
         if (!IsPlainLength(length)) {
-            report.Add("WARN: The length of a TRE is not written in digits.", [&](Finding& aFinding) {
+            report.Add("WARN: The length of a TRE is not written in digits.", "TR-02", [&](Finding& aFinding) {
                 aFinding.value = length;
                 aFinding.allowed = "00001..99999";
                 return std::string();
             });
         }
     }
+    const bool padded = walk.Rest().find_first_not_of(std::string_view(" \0", 2)) == std::string_view::npos;
+    const auto level = padded ? Finding::Level::Warning : Finding::Level::Error;
+    ReportEnd(report, walk, step, aPlace, level);
     if (step == AreaWalk::Step::End && !walk.Rest().empty()) {
-        report.Add("WARN: An extension area ends with bytes that are no TRE.", [&](Finding& aFinding) {
+        const auto fill = [&](Finding& aFinding) {
             aFinding.detail = std::to_string(walk.Rest().size()) + " byte(s) are left.";
             aFinding.tre.clear();
             aFinding.turn = 0;
             aFinding.value = walk.Rest();
             return std::string();
-        });
+        };
+        report.Add("WARN: An extension area ends with bytes that are no TRE.", aPlace.rule, fill, level);
     }
 }
 

@@ -20,6 +20,7 @@ struct AreaPlace
     const char* name = nullptr;                     ///< "UDHD", "XHD", "UDID" ...; must live as long as the process
     std::uint64_t offset = 0;                       ///< of the first byte of the area in the file
     TRE::Type unknownType = TRE::TRE_TYPE_UNKNOWN;  ///< for tags that no group knows
+    const char* rule = "TR-01";                     ///< the validation rule that says what an area holds
 };
 
 /// How an area is cut.
@@ -35,8 +36,8 @@ struct AreaOptions
 int ExtractTREs(std::string_view aArea, TREStore& aStore, const AreaOptions& aOptions,
                 Util::CSMCnst::ByteOrder aByteOrder, const AreaPlace& aPlace, FindingList& aFindings);
 
-/// What a validation says of the records of an area beyond what reading it has said: bytes behind the last one, tags
-/// and lengths that are not written as they should be.
+/// What a validation says of the records of an area: one that ends before the area does, bytes behind the last one, and
+/// tags and lengths that are not written as they should be. Padding is worth a warning only.
 void CheckArea(std::string_view aArea, const AreaPlace& aPlace, FindingList& aFindings);
 
 }  // namespace Detail

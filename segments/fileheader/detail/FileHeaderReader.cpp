@@ -57,7 +57,8 @@ void UseStreamedHeader(const ByteSource& aSource, RawFileHeader& aOut, FindingLi
     std::string reason;
     const std::string streamed = StreamedHeader(aSource, reason);
     if (streamed.empty()) {
-        aFindings.Add(MakeFinding("WARN: FL is all nines, so the file was written as a stream, but " + reason + "."));
+        aFindings.Add(
+            MakeFinding("WARN: FL is all nines, so the file was written as a stream, but " + reason + ".", "SF-01"));
         return;
     }
     std::uint64_t length = 0;
@@ -70,7 +71,8 @@ void UseStreamedHeader(const ByteSource& aSource, RawFileHeader& aOut, FindingLi
     aOut.bytes.replace(0, replaced, streamed, 0, replaced);
     aOut.streaming = true;
     aFindings.Add(MakeFinding("WARN: The file was written as a stream: the STREAMING_FILE_HEADER at its end (" +
-                              std::to_string(streamed.size()) + " byte(s)) is read in place of the first header."));
+                                  std::to_string(streamed.size()) + " byte(s)) is read in place of the first header.",
+                              "RD-02"));
 }
 
 }  // namespace

@@ -4,6 +4,11 @@ namespace ORMO::SensorModel::CSM::Detail {
 
 namespace {
 
+bool IsBasic(std::string_view aFormat) noexcept
+{
+    return aFormat == "STA" || aFormat == "MTF";
+}
+
 /// Bytes of the UTF-8 character that begins a text; 0 when there is none.
 std::size_t Utf8Length(std::string_view aText) noexcept
 {
@@ -30,24 +35,22 @@ std::size_t Utf8Length(std::string_view aText) noexcept
     return 0;
 }
 
+bool IsKnown(std::string_view aFormat) noexcept
+{
+    return IsBasic(aFormat) || aFormat == "UT1" || aFormat == "U8S";
+}
+
 }  // namespace
 
-TextFault CheckText(std::string_view aText, std::string_view aFormat) noexcept
+TextFault CheckTextBytes(std::string_view aText, std::string_view aFormat) noexcept
 {
-    const bool basic = aFormat == "STA" || aFormat == "MTF";
+    const bool basic = IsBasic(aFormat);
     const bool extended = aFormat == "UT1";
-    const bool unicode = aFormat == "U8S";
-    if (!basic && !extended && !unicode) {
-        return {};
-    }
-    for (std::size_t i = 0; i < aText.size();) {
+    for (std::size_t i = 0; i != aText.size() && IsKnown(aFormat); ++i) {
         const auto byte = static_cast<unsigned char>(aText[i]);
         const bool control = byte < 0x20 || byte == 0x7F;
         if (control && byte != '\r' && byte != '\n' && byte != '\f') {
             return {"a control byte", i};
-        }
-        if (byte == '\n' && (i == 0 || aText[i - 1] != '\r')) {
-            return {"a line feed without a carriage return before it", i};
         }
         if (basic && byte > 0x7E) {
             return {"a byte above 126", i};
@@ -55,9 +58,34 @@ TextFault CheckText(std::string_view aText, std::string_view aFormat) noexcept
         if (extended && byte >= 0x80 && byte < 0xA0) {
             return {"a byte between 128 and 159", i};
         }
-        const std::size_t length = unicode ? Utf8Length(aText.substr(i)) : 1;
+    }
+    return {};
+}
+
+TextFault CheckLineEnds(std::string_view aText, std::string_view aFormat) noexcept
+{
+    for (std::size_t i = 0; i != aText.size() && IsKnown(aFormat); ++i) {
+        if (aText[i] == '\n' && (i == 0 || aText[i - 1] != '\r')) {
+            return {"a line feed without a carriage return before it", i};
+        }
+        if (aText[i] == '\r' && (i + 1 == aText.size() || aText[i + 1] != '\n')) {
+            return {"a carriage return without a line feed behind it", i};
+        }
+    }
+    return {};
+}
+
+TextFault CheckUnicode(std::string_view aText, std::string_view aFormat) noexcept
+{
+    for (std::size_t i = 0; i < aText.size() && aFormat == "U8S";) {
+        const std::size_t length = Utf8Length(aText.substr(i));
         if (length == 0) {
             return {"a byte that begins no UTF-8 character", i};
+        }
+        // C2 and C3 open what stands below U+0100, of which U+0080 to U+009F are control characters.
+        const auto first = static_cast<unsigned char>(aText[i]);
+        if (first > 0xC3 || (first == 0xC2 && static_cast<unsigned char>(aText[i + 1]) < 0xA0)) {
+            return {"a character that is neither Basic Latin nor Latin-1", i};
         }
         i += length;
     }

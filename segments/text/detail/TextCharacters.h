@@ -12,8 +12,13 @@ struct TextFault
     std::size_t offset = 0;
 };
 
-/// Holds a text against the character set of its TXTFMT (MIL-STD-2500C, 5.6.1 and 5.1.7): MTF and STA take BCS, UT1
-/// takes ECS, U8S takes UTF-8; a line ends with CR and LF. Other formats allow every byte.
-[[nodiscard]] TextFault CheckText(std::string_view aText, std::string_view aFormat) noexcept;
+// Each holds a text against its TXTFMT (MIL-STD-2500C, 5.6.1 and 5.1.7). Formats that are not known allow every byte.
+
+/// The bytes: MTF and STA take BCS, UT1 takes ECS, U8S takes no control bytes besides those that end lines.
+[[nodiscard]] TextFault CheckTextBytes(std::string_view aText, std::string_view aFormat) noexcept;
+/// That CR and LF end a line together.
+[[nodiscard]] TextFault CheckLineEnds(std::string_view aText, std::string_view aFormat) noexcept;
+/// That U8S is UTF-8 with nothing above U+00FF.
+[[nodiscard]] TextFault CheckUnicode(std::string_view aText, std::string_view aFormat) noexcept;
 
 }  // namespace ORMO::SensorModel::CSM::Detail
