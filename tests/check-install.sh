@@ -23,6 +23,10 @@ LD_LIBRARY_PATH=$(dirname "$pc") "$work/pc-client" "$sample" | grep -q "^NITF02.
     { echo "FAILED: client through pkg-config"; exit 1; }
 "$work/prefix/bin/ormo-nitf" info "$sample" >/dev/null || { echo "FAILED: the installed program"; exit 1; }
 
+[ -f "$work/prefix/share/man/man1/ormo-nitf.1" ] || { echo "FAILED: the manual page is not installed"; exit 1; }
+[ -f "$work/prefix/share/bash-completion/completions/ormo-nitf" ] ||
+    { echo "FAILED: the completion is not installed"; exit 1; }
+
 # A CSM host that knows only the folder of plug-ins finds ours there, alone and beside the library itself.
 plugin=$(find "$work/prefix" -path '*/csmplugins/libormo_csm.so')
 if [ -x "$build/tests/csmhost/ormo_host_gnuxx14_loading" ]; then
