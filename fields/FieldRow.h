@@ -23,6 +23,7 @@ enum class Form : std::uint8_t
     Text,                  ///< BCS-A
     Ecs,                   ///< ECS-A: BCS-A and 0xA0 to 0xFF
     Utf8,                  ///< UTF-8 text
+    Opaque,                ///< text or not: what another field names decides
     Integer,               ///< BCS-N, a whole number
     Real,                  ///< BCS-N, a number with or without point and exponent
     Digits,                ///< BCS-NPI, a number

@@ -80,6 +80,15 @@ public:
 
     /// Gives every finding behind the mark that names no segment its segment: who reads a part of it does not know.
     void PlaceAt(const FindingMark& aSince, std::string_view aSegment, int aIndex);
+    /// Gives every finding behind the mark the turn of its TRE, which is worked out only when there is such a finding.
+    template<typename Turn>
+    void TurnAt(const FindingMark& aSince, Turn aTurn)
+    {
+        const int turn = m_kept.size() > aSince.kept ? aTurn() : 0;
+        for (std::size_t i = aSince.kept; i < m_kept.size(); ++i) {
+            m_kept[i].finding.turn = turn;
+        }
+    }
 
     /// The texts of errors, or of warnings, behind a mark, with a blank line between them: what the last-error and
     /// last-warning texts of readers say. A last one says how many more there were.

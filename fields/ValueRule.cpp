@@ -162,8 +162,8 @@ bool IsWrongCode(Form aForm, std::string_view aValue) noexcept
 
 bool HasOnlyAllowedCharacters(const FieldRow& aRow, std::string_view aValue) noexcept
 {
-    if (aRow.form == Form::Utf8) {
-        return IsUtf8(aValue);
+    if (aRow.form == Form::Utf8 || aRow.form == Form::Opaque) {
+        return aRow.form == Form::Opaque || IsUtf8(aValue);
     }
     const bool extended = aRow.form == Form::Ecs || aRow.form == Form::ClassificationReason;
     return std::all_of(aValue.begin(), aValue.end(), [extended](char aCharacter) {

@@ -23,8 +23,8 @@ constexpr std::array<Carried, 256> CARRIED = [] {
     for (std::size_t byte = 0; byte != table.size(); ++byte) {
         table[byte] = byte < 0x20 ? Carried::Never : byte < 0x80 ? Carried::AsItIs : Carried::AsTwoBytes;
     }
-    // A parser would turn these three into other white space.
-    for (const char character : {'\t', '\n', '\r', '&', '<', '>', '"', '\''}) {
+    // A parser would turn the first three into other white space; the last one is no text for a terminal.
+    for (const char character : {'\t', '\n', '\r', '&', '<', '>', '"', '\'', '\x7F'}) {
         table[static_cast<unsigned char>(character)] = Carried::Escaped;
     }
     return table;
@@ -52,6 +52,8 @@ std::string_view Escape(char aCharacter) noexcept
             return "&#13;";
         case '\n':
             return "&#10;";
+        case '\x7F':
+            return "&#127;";
         default:
             return "&#9;";
     }

@@ -22,6 +22,7 @@
 #include <vector>
 
 #include <dlfcn.h>
+#include <sys/stat.h>
 
 namespace ORMO::SensorModel::CSM::Util {
 namespace {
@@ -32,6 +33,20 @@ std::string LoadError(int aCode, const char* aMessage)
 {
     return "Error code returned from the Windows system = " + std::to_string(aCode) +
            "\nWindows system error message: " + std::string(Detail::ViewOf(aMessage));
+}
+
+/// Why a library cannot be loaded, for when the loader itself does not say: a name without a folder is looked for in
+/// places that it alone knows.
+int LoadErrorCode(const std::string& aName) noexcept
+{
+    struct stat status = {};
+    if (aName.find('/') == std::string::npos) {
+        return ENOENT;
+    }
+    if (::stat(aName.c_str(), &status) != 0) {
+        return errno;
+    }
+    return S_ISDIR(status.st_mode) ? EISDIR : ENOEXEC;
 }
 
 /// The names under which a library may be found, the given one first.
@@ -257,14 +272,16 @@ bool CSMUtilWindows::LoadModule(const char* aPath, ModuleHandle& aModule, std::s
         for (const std::string& name : ModuleNames(path)) {
             errno = 0;
             aModule = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
-            const int code = errno;
+            int code = errno;
             if (aModule != nullptr) {
                 aError.clear();
                 return true;
             }
             const char* const message = dlerror();
             if (aError.empty()) {
-                aError = LoadError(code, message);
+                const std::string reason(Detail::ViewOf(message));
+                code = code == 0 ? LoadErrorCode(name) : code;
+                aError = LoadError(code, reason.c_str());
             }
         }
         return false;

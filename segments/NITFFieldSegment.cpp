@@ -357,10 +357,9 @@ bool NITFFieldSegment::GetDataField(std::string_view, const char*&, std::size_t&
 
 const TRE* NITFFieldSegment::FirstTRE(std::string_view aTag) const
 {
-    const std::string tag(aTag);
-    const std::vector<TRE*>* tres = QueriedTREs().Find(tag.c_str());
-    tres = tres == nullptr ? GetOverflowTREStore().Find(tag.c_str()) : tres;
-    return tres == nullptr ? nullptr : tres->front();
+    const std::string_view tag = Detail::Trimmed(aTag);
+    const TRE* const own = QueriedTREs().First(tag);
+    return own == nullptr ? GetOverflowTREStore().First(tag) : own;
 }
 
 std::string_view NITFFieldSegment::CheckedName(const char* aName, const char* aTreTag, bool aText) const

@@ -274,6 +274,8 @@ for document in isd validation; do
 done
 mapfile -t files < <(find "$corpus" -type f -size -60M 2>/dev/null | sort)
 python3 "$source_dir/tests/compare-xml-json.py" "$tool" "$sample" "${files[@]}" || fail "XML and JSON disagree"
+mkdir "$work/controls"
+python3 "$source_dir/tests/check-output.py" "$tool" "$sample" "$work/controls" || fail "control bytes of a file reach a terminal"
 check_documents "$sample"
 if [ -d "$corpus" ]; then
     count=0

@@ -7,6 +7,7 @@
 #include "tre/detail/TreParts.h"
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <string>
 #include <string_view>
@@ -162,6 +163,20 @@ const std::vector<TRE*>* TREStore::Find(const char* aTag) const
     const std::string tag(Detail::Trimmed(aTag));
     const auto it = ByTag().find(tag.c_str());
     return it == ByTag().end() ? nullptr : &it->second;
+}
+
+const TRE* TREStore::First(std::string_view aTag) const noexcept
+{
+    const std::vector<TRE*>& tres = InOrder();
+    const auto it = std::find_if(tres.begin(), tres.end(), [aTag](const TRE* aTre) { return aTag == aTre->GetTag(); });
+    return it == tres.end() ? nullptr : *it;
+}
+
+void TREStore::AppendOfTag(std::string_view aTag, std::vector<const TRE*>& aFound) const
+{
+    const std::vector<TRE*>& tres = InOrder();
+    std::copy_if(tres.begin(), tres.end(), std::back_inserter(aFound),
+                 [aTag](const TRE* aTre) { return aTag == aTre->GetTag(); });
 }
 
 void TREStore::Clear() noexcept

@@ -40,6 +40,10 @@ public:
     /// Built when it is first asked for; lives until a TRE is added or the store is cleared.
     const Map& ByTag() const;
     const std::vector<TRE*>& InOrder() const noexcept;
+    /// The first TRE of a tag; null when there is none. Looks at one after another, so nothing is built for it.
+    const TRE* First(std::string_view aTag) const noexcept;
+    /// Appends all TREs of a tag, in the same way.
+    void AppendOfTag(std::string_view aTag, std::vector<const TRE*>& aFound) const;
     /// The TREs of a tag, blanks around it left out; null when there are none. Lives as long as the map.
     const std::vector<TRE*>* Find(const char* aTag) const;
     std::size_t Size() const noexcept { return InOrder().size(); }

@@ -2,6 +2,7 @@
 
 #include "foundation/Finding.h"
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -28,8 +29,19 @@ struct LastMessages
         findings.clear();
     }
 
-    void SetError(const char* aText) { error = aText == nullptr ? "" : aText; }
-    void SetWarning(const char* aText) { warning = aText == nullptr ? "" : aText; }
+    // With memory short there is no text.
+    void SetError(const char* aText) noexcept { Set(error, aText); }
+    void SetWarning(const char* aText) noexcept { Set(warning, aText); }
+
+private:
+    static void Set(std::string& aTarget, const char* aText) noexcept
+    {
+        aTarget.clear();
+        try {
+            aTarget = aText == nullptr ? "" : aText;
+        } catch (const std::bad_alloc&) {
+        }
+    }
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail

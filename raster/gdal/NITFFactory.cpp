@@ -122,15 +122,19 @@ bool NITFFactory::Open(const char* aFileName, ImageSupportDataNITF** aIsd, int& 
                        bool* aIsSubdataset)
 {
     ClearOutputs(aIsd, aImageIndex, aHasImage, aIsSubdataset);
-    const std::string name = Util::CSMUtilString::Trim(aFileName == nullptr ? "" : aFileName);
-    // GDAL opens whatever it is given, and would wait for a pipe.
-    if (!Util::CSMUtilFile::FileExists(Parse(name.c_str()).file)) {
-        return Fail(
-            "ERROR: Invalid, NULL, or empty input file name or the file doesn't exist/cannot be accessed by the NITF "
-            "System.");
+    try {
+        const std::string name = Util::CSMUtilString::Trim(aFileName == nullptr ? "" : aFileName);
+        // GDAL opens whatever it is given, and would wait for a pipe.
+        if (!Util::CSMUtilFile::FileExists(Parse(name.c_str()).file)) {
+            return Fail(
+                "ERROR: Invalid, NULL, or empty input file name or the file doesn't exist/cannot be accessed by the "
+                "NITF System.");
+        }
+        const GDALOpenInfo request(name.c_str(), GDAL_OF_READONLY);
+        return Open(&request, aIsd, aImageIndex, aHasImage, aIsSubdataset);
+    } catch (const std::bad_alloc&) {
+        return Fail("ERROR: System out of memory.");
     }
-    const GDALOpenInfo request(name.c_str(), GDAL_OF_READONLY);
-    return Open(&request, aIsd, aImageIndex, aHasImage, aIsSubdataset);
 }
 
 bool NITFFactory::Open(const GDALOpenInfo* aRequest, ImageSupportDataNITF** aIsd, int& aImageIndex, bool& aHasImage,

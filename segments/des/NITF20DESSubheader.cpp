@@ -44,7 +44,7 @@ constexpr FieldRow BODY[] = {
     End(),
     Field("DESSHL",   4, Required,        Digits,      "0000..9999", "", "Length of DES-defined Subheader Fields [0000-9999]"),
     WhenPositive("DESSHL"),
-        Sized("DESSHF", "DESSHL", 0, Conditional,     Utf8,        "", "", "DES-defined Subheader Fields"),
+        Sized("DESSHF", "DESSHL", 0, Conditional,     Opaque,      "", "", "DES-defined Subheader Fields"),
     End(),
 };
 // clang-format on

@@ -32,7 +32,7 @@ constexpr FieldRow BODY[] = {
     End(),
     Field("DESSHL",   4, Required,        Digits,      "0000..9998", "", "DES User-defined Subheader Length [0000-9998]"),
     WhenPositive("DESSHL"),
-        Sized("DESSHF", "DESSHL", 0, Conditional,     Utf8,        "", "", "DES User-defined Subheader Fields"),
+        Sized("DESSHF", "DESSHL", 0, Conditional,     Opaque,      "", "", "DES User-defined Subheader Fields"),
     End(),
 };
 // clang-format on

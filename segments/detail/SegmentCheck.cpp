@@ -5,9 +5,9 @@
 #include "segments/detail/rules/FieldChecks.h"
 #include "tre/detail/TreMaker.h"
 
-#include <map>
+#include <algorithm>
 #include <string_view>
-#include <utility>
+#include <vector>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -15,11 +15,17 @@ namespace Detail {
 
 void CheckTREs(const TREStore& aStore, FindingList& aFindings)
 {
-    std::map<std::string_view, int> turns;
-    for (const TRE* const tre : aStore.InOrder()) {
-        Finding place;
-        place.turn = ++turns[tre->GetTag()];
-        TreMaker::Check(*tre, std::move(place), aFindings);
+    const std::vector<TRE*>& tres = aStore.InOrder();
+    for (auto tre = tres.begin(); tre != tres.end(); ++tre) {
+        // Few TREs have findings, so their turns are not counted beforehand.
+        const auto turn = [&] {
+            const std::string_view tag = (*tre)->GetTag();
+            return static_cast<int>(
+                std::count_if(tres.begin(), tre + 1, [tag](const TRE* aOther) { return tag == aOther->GetTag(); }));
+        };
+        const FindingMark before = aFindings.Now();
+        TreMaker::Check(**tre, Finding(), aFindings);
+        aFindings.TurnAt(before, turn);
     }
 }
 

@@ -20,13 +20,16 @@ constexpr std::uint64_t COLOUR_WIDTH = 3;
 constexpr std::uint64_t NAME_WIDTH = 27;
 
 /// MIL-STD-2500A has no background colour. Later writers lay one over the first three bytes of ONAME; the practice is
-/// to take them as a colour when one is no printable character or all are equal, and as part of the name otherwise.
+/// to take them as a colour when one is no printable character or all are equal, and as part of the name otherwise. A
+/// name that is blank as a whole is no colour.
 bool BackgroundColourWidth(const WalkContext& aContext, std::uint64_t& aOut)
 {
     const std::string_view bytes = aContext.Ahead(COLOUR_WIDTH);
     const bool equal = bytes.size() == COLOUR_WIDTH && bytes[0] == bytes[1] && bytes[1] == bytes[2];
-    const bool colour =
-        equal || std::any_of(bytes.begin(), bytes.end(), [](char aByte) { return aByte < 0x20 || aByte > 0x7E; });
+    const std::string_view name = aContext.Ahead(NAME_WIDTH);
+    const bool blank = name.find_first_not_of(' ') == std::string_view::npos;
+    const bool colour = (equal && !blank) || std::any_of(bytes.begin(), bytes.end(),
+                                                         [](char aByte) { return aByte < 0x20 || aByte > 0x7E; });
     aOut = NITFCnst::MODIFY_NITF_FILE_HEADER_FIELD_FBKGC && colour ? COLOUR_WIDTH : 0;
     return true;
 }

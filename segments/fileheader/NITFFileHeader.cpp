@@ -251,13 +251,13 @@ bool NITFFileHeader::CheckVersion() const
 
 void NITFFileHeader::CheckForTreRPFHDR()
 {
-    const std::vector<TRE*>* const tres = GetTREStore().Find("RPFHDR");
-    if (tres == nullptr) {
+    const TRE* const rpf = GetTREStore().First("RPFHDR");
+    if (rpf == nullptr) {
         return;
     }
     const char* order = nullptr;
     std::size_t length = 0;
-    if (!tres->front()->GetFieldAsBinary("LBEI", order, length) || length != 1) {
+    if (!rpf->GetFieldAsBinary("LBEI", order, length) || length != 1) {
         return;
     }
     const auto mark = static_cast<unsigned char>(*order);

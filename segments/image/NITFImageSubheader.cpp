@@ -75,17 +75,15 @@ std::vector<const TRE*> NITFImageSubheader::FindTREs(const char* aTag) const
 {
     std::vector<const TRE*> found;
     for (const TREStore* const store : {&GetTREStore(), &GetOverflowTREStore()}) {
-        if (const std::vector<TRE*>* const tres = store->Find(aTag); tres != nullptr) {
-            found.insert(found.end(), tres->begin(), tres->end());
-        }
+        store->AppendOfTag(aTag, found);
     }
     return found;
 }
 
 const TRE* NITFImageSubheader::FindTRE(const char* aTag) const
 {
-    const std::vector<const TRE*> found = FindTREs(aTag);
-    return found.empty() ? nullptr : found.front();
+    const TRE* const own = GetTREStore().First(aTag);
+    return own == nullptr ? GetOverflowTREStore().First(aTag) : own;
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -22,7 +22,7 @@ constexpr FieldRow HEAD[] = {
 constexpr FieldRow BODY[] = {
     Field("RESSHL",   4, Required,        Digits,      "0000..9999", "", "Length of RES-defined Subheader Fields [0000-9999]"),
     WhenPositive("RESSHL"),
-        Sized("RESSHF", "RESSHL", 0, Conditional,     Utf8,        "", "", "RES-defined Subheader Fields"),
+        Sized("RESSHF", "RESSHL", 0, Conditional,     Opaque,      "", "", "RES-defined Subheader Fields"),
     End(),
 };
 // clang-format on

@@ -22,7 +22,7 @@ constexpr FieldRow HEAD[] = {
 constexpr FieldRow BODY[] = {
     Field("RESSHL",   4, Required,        Digits,      "0000..9999", "", "RES User-defined Subheader Length [0000-9799]"),
     WhenPositive("RESSHL"),
-        Sized("RESSHF", "RESSHL", 0, Conditional,     Utf8,        "", "", "RES User-defined Subheader Fields"),
+        Sized("RESSHF", "RESSHL", 0, Conditional,     Opaque,      "", "", "RES User-defined Subheader Fields"),
     End(),
 };
 // clang-format on

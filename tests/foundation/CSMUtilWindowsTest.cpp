@@ -2,6 +2,7 @@
 #include "foundation/CSMUtilWindows.h"
 #include "tests/foundation/OwnedText.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <future>
@@ -177,6 +178,21 @@ TEST(ModuleTest, FailuresTellCodeAndMessageOfTheNameAsGiven)
             EXPECT_NE(error.find("/nowhere/x.dll"), std::string::npos) << error;
         }
     }
+}
+
+TEST(ModuleTest, FailuresTellTheReason)
+{
+    const auto errorOf = [](const char* aName) {
+        CSMUtilWindows::ModuleHandle module = nullptr;
+        std::string error;
+        EXPECT_FALSE(CSMUtilWindows::LoadModule(aName, module, error)) << aName;
+        return error.substr(0, error.find('\n'));
+    };
+    const std::string code = "Error code returned from the Windows system = ";
+    EXPECT_EQ(errorOf("/nowhere/x.so"), code + std::to_string(ENOENT));
+    EXPECT_EQ(errorOf("no-such-library.so"), code + std::to_string(ENOENT));
+    EXPECT_EQ(errorOf("/"), code + std::to_string(EISDIR));
+    EXPECT_EQ(errorOf("/etc/passwd"), code + std::to_string(ENOEXEC));
 }
 
 TEST(ProcessTest, ExecutableIsThisProgram)

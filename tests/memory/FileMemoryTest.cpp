@@ -159,5 +159,66 @@ TEST(FilePeakTest, ADocumentIsWrittenInPiecesHoweverLongItsDataAre)
     std::fclose(out);
 }
 
+/// What opening may take: the bytes of headers and extensions twenty times over, and a base.
+std::size_t MostMemory(std::size_t aBytes)
+{
+    return (std::size_t{8} << 20U) + 20 * aBytes;
+}
+
+void ExpectBounded(const std::string& aBytes, std::size_t aMetadata)
+{
+    const TempFile file(aBytes);
+    const PeakMemory peak;
+    ImageSupportData* made = nullptr;
+    ImageSupportDataFactory::Create(file.Path().c_str(), &made, true, false);
+    const Isd isd(made);
+    EXPECT_GT(MostMemory(aMetadata), peak.Bytes());
+    unsigned long errors = 0;
+    unsigned long warnings = 0;
+    isd->RigorousValidation(errors, warnings);
+    EXPECT_GT(MostMemory(aMetadata), peak.Bytes());
+}
+
+TEST(FilePeakTest, ManyOverflowSegmentsForOneImage)
+{
+    NitfBuilder builder;
+    builder.AddImage().Area("IXSHD", "", 1);
+    for (int i = 0; i != 998; ++i) {
+        builder.AddOverflow("IXSHD", 1, Tre("OFFSET", "0000001200000034"));
+    }
+    const std::string bytes = builder.Bytes();
+    ExpectBounded(bytes, bytes.size());
+}
+
+TEST(FilePeakTest, OverflowOfShortTresWithOneTagAndWithManyTags)
+{
+    constexpr std::size_t COUNT = 1'000'000;
+    for (const bool distinct : {false, true}) {
+        std::string area;
+        for (std::size_t i = 0; i != COUNT; ++i) {
+            area += Tre(distinct ? Padded(i, 6) : "NOBODY", "x");
+        }
+        NitfBuilder builder;
+        builder.AddImage().Area("IXSHD", "", 1);
+        builder.AddOverflow("IXSHD", 1, area);
+        const std::string bytes = builder.Bytes();
+        ExpectBounded(bytes, bytes.size());
+    }
+}
+
+TEST(FilePeakTest, RefusedTresInEveryAreaOfEveryImage)
+{
+    std::string area;
+    for (int i = 0; i != 1000; ++i) {
+        area += Tre("BLOCKA", "wrong");
+    }
+    NitfBuilder builder;
+    for (int i = 0; i != 999; ++i) {
+        builder.AddImage().Area("IXSHD", area).Area("UDID", area);
+    }
+    const std::string bytes = builder.Bytes();
+    ExpectBounded(bytes, bytes.size());
+}
+
 }  // namespace
 }  // namespace ORMO::SensorModel::CSM::Tests

@@ -329,6 +329,17 @@ TEST(DesTypesTest, ShapefileIsCutByItsStartsWhateverTheirOrder)
     EXPECT_EQ("ERROR: SHAPE1_START \"-00001\" is not a number [data = 10 byte(s)].", fault);
 }
 
+TEST(DesTypesTest, FieldsOfAnUnknownTypeAreWhateverTheyAre)
+{
+    NitfBuilder builder;
+    builder.AddDes("NOBODYS OWN", "data").UserFields(std::string("\0\x80\xFF\x1B binary", 11));
+    const BuiltSegment<NITF21DESSubheader> des(builder, NITFCnst::NITF_VERSION_NUMBER_21);
+    unsigned long errors = 9;
+    unsigned long warnings = 9;
+    EXPECT_TRUE(des->RigorousValidation(errors, warnings)) << des->GetErrorMessage();
+    EXPECT_EQ(0U, errors + warnings);
+}
+
 TEST(DesTypesTest, XmlHasTheTypedFieldsInPlaceOfTheRawOne)
 {
     const auto des = Des("XML_DATA_CONTENT", Document(283), "<?xml version=\"1.0\"?>\n<a b='c'>&amp;</a>");

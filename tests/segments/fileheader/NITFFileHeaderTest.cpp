@@ -416,6 +416,11 @@ TEST(NITF20FileHeaderTest, FirstBytesOfTheNameAreAColourWhenTheyAreNoText)
         EXPECT_TRUE(header->GetFileBackgroundColor(red, green, blue));
         EXPECT_EQ(static_cast<unsigned char>(test.colour[2]), blue);
     }
+    NitfBuilder nameless(V20);
+    nameless.File().Set("ONAME", "");
+    const auto header = Read(nameless.Header());
+    EXPECT_EQ("~~~", TextOf(*header, "FBKGC")) << "a name that is blank is no dark grey";
+    EXPECT_EQ(std::string(27, ' '), TextOf(*header, "ONAME"));
 }
 
 TEST(NITFFileHeaderTest, RpfHeaderTellsTheByteOrder)
