@@ -3,6 +3,7 @@
 //
 // ormo-example-host FILE [PLUGIN.so ...]
 
+#include "foundation/CSMApi.h"
 #include "foundation/CSMException.h"
 #include "isd/ImageSupportData.h"
 #include "isd/ImageSupportDataFactory.h"

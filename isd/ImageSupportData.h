@@ -1,6 +1,5 @@
 #pragma once
 
-#include "../foundation/CSMApi.h"
 #include "../foundation/CSMCnst.h"
 #include "../foundation/Export.h"
 #include "SupportedISD.h"
@@ -10,6 +9,11 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+// Of the CSM API, which this header does not bring along (foundation/CSMApi.h).
+class TSMSensorModel;
+class image;
+class tsm_ISD;
 
 namespace ORMO::SensorModel::CSM {
 

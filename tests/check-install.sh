@@ -9,18 +9,52 @@ trap 'rm -rf "$work"' EXIT
 
 cmake --install "$build" --prefix "$work/prefix" >/dev/null
 sample=$work/sample.ntf
-"$build/examples/ormo-make-sample" "$sample"
+"$build/tests/sample/ormo-make-sample" "$sample"
 
 cmake -S "$source_dir/tests/install" -B "$work/client" -G Ninja -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
 cmake --build "$work/client" >/dev/null
 "$work/client/client" "$sample" | grep -q "^NITF02.10, 1 image" || { echo "FAILED: client through find_package"; exit 1; }
 
-pc=$(dirname "$(find "$work/prefix" -name ormo-csm.pc)")
-flags=$(PKG_CONFIG_PATH="$pc" pkg-config --define-variable=prefix="$work/prefix" --cflags --libs ormo-csm)
-# shellcheck disable=SC2086
-g++ -std=c++17 "$source_dir/tests/install/client.cpp" -o "$work/pc-client" $flags
+# The first program of the README, as it stands there.
+{ echo '#include <cstdio>'; sed -n '/^```cpp$/,/^```$/p' "$source_dir/README.md" | grep -v '^```'; } >"$work/readme.cpp"
+sed "s|client.cpp|$work/readme.cpp|" "$source_dir/tests/install/CMakeLists.txt" >"$work/CMakeLists.txt"
+cmake -S "$work" -B "$work/readme" -G Ninja -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
+cmake --build "$work/readme" >/dev/null || { echo "FAILED: the program of the README does not build"; exit 1; }
+"$work/readme/client" "$sample" | grep -q "lines" || { echo "FAILED: the program of the README"; exit 1; }
+"$work/readme/client" "$work/absent.ntf" >/dev/null 2>&1 && { echo "FAILED: the README's program opens nothing"; exit 1; }
+
+# The package may be moved.
+mv "$work/prefix" "$work/moved"
+pc=$(dirname "$(find "$work/moved" -name ormo-csm.pc)")
+export PKG_CONFIG_PATH=$pc
+# shellcheck disable=SC2046
+g++ -std=c++17 "$source_dir/tests/install/client.cpp" -o "$work/pc-client" $(pkg-config --cflags --libs ormo-csm)
 LD_LIBRARY_PATH=$(dirname "$pc") "$work/pc-client" "$sample" | grep -q "^NITF02.10, 1 image" ||
     { echo "FAILED: client through pkg-config"; exit 1; }
+[ ! -f "$pc/ormo-csm-gdal.pc" ] || pkg-config --libs ormo-csm-gdal | grep -q -- "-lormo_csm_gdal" ||
+    { echo "FAILED: pkg-config does not know the GDAL library"; exit 1; }
+mv "$work/moved" "$work/prefix"
+
+# A host without the CSM API: nothing of it but three names of classes comes along.
+echo '#include <ormo_nitf.h>
+class TSMPlugin {}; class TSMError {}; class NITF_2_1_ISD {}; class des {}; class tre {};
+static_assert(ORMO_CSM_VERSION_NUMBER >= 10000, "");
+int main() { return sizeof(ORMO::SensorModel::CSM::Finding) == 0; }' >"$work/nitf-only.cpp"
+g++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror -I"$work/prefix/include/ormo-csm" "$work/nitf-only.cpp" ||
+    { echo "FAILED: ormo_nitf.h needs the CSM API"; exit 1; }
+
+# Inside another project the library alone is built; an archive of the sources may come without the tests.
+mkdir "$work/outer" "$work/archive"
+(cd "$source_dir" && tar --exclude=./build --exclude=./.git --exclude=./tests --exclude=./out -cf - .) | tar -xf - -C "$work/archive"
+printf 'cmake_minimum_required(VERSION 3.25)\nproject(Outer LANGUAGES CXX)\nadd_subdirectory(%s ormo)\n' \
+    "$work/archive" >"$work/outer/CMakeLists.txt"
+cmake -S "$work/outer" -B "$work/outer/build" -G Ninja -DCMAKE_DISABLE_FIND_PACKAGE_GDAL=ON \
+    -DCMAKE_DISABLE_FIND_PACKAGE_CLI11=ON -DCMAKE_DISABLE_FIND_PACKAGE_nlohmann_json=ON \
+    -DCMAKE_DISABLE_FIND_PACKAGE_EXPAT=ON >"$work/log" 2>&1 ||
+    { echo "FAILED: as a part of another project"; cat "$work/log"; exit 1; }
+cmake -S "$work/archive" -B "$work/archive/build" -G Ninja >"$work/log" 2>&1 ||
+    { echo "FAILED: an archive without tests"; cat "$work/log"; exit 1; }
+
 "$work/prefix/bin/ormo-nitf" info "$sample" >/dev/null || { echo "FAILED: the installed program"; exit 1; }
 
 [ -f "$work/prefix/share/man/man1/ormo-nitf.1" ] || { echo "FAILED: the manual page is not installed"; exit 1; }

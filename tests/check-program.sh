@@ -21,7 +21,7 @@ expect() {
 }
 
 sample=$work/sample.ntf
-"$(dirname "$tool")/../examples/ormo-make-sample" "$sample"
+"$(dirname "$tool")/../tests/sample/ormo-make-sample" "$sample"
 
 expect 0 "$tool" info "$sample"
 grep -q "NITF02.10" "$work/out" || fail "info does not tell the version"
