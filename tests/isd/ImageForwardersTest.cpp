@@ -1,6 +1,7 @@
 // What the object for the whole file answers about a segment is what the segment answers; about one that is not there
 // it answers false or null, and says why.
 
+#include "foundation/CSMApi.h"
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/OpenedIsd.h"
 
