@@ -2,6 +2,7 @@
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 #include "tools/Nearest.h"
+#include "tools/Output.h"
 #include "tools/SegmentName.h"
 #include "tre/TRECatalogue.h"
 
@@ -37,7 +38,7 @@ int PrintAllTags()
 
 int Refuse(const std::string& aWhat, const std::string& aTyped, const std::vector<std::string>& aKnown)
 {
-    std::cerr << "ormo-nitf: ERROR: " << aWhat << " is not known." << DidYouMean(aTyped, aKnown) << '\n';
+    std::cerr << Printable("ormo-nitf: ERROR: " + aWhat + " is not known." + DidYouMean(aTyped, aKnown)) << '\n';
     return EXIT_FILE_HAS_ERRORS;
 }
 

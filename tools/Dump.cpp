@@ -4,6 +4,7 @@
 #include "tools/Filter.h"
 #include "tools/Isd.h"
 #include "tools/Lines.h"
+#include "tools/Output.h"
 
 #include <algorithm>
 #include <fstream>
@@ -188,7 +189,7 @@ int Dump(const Options& aOptions)
     std::string reason;
     const bool all = aOptions.segment.empty();
     if (!all && !ParseSegment(aOptions.segment, wanted, reason)) {
-        std::cerr << "ormo-nitf: " << reason << '\n';
+        std::cerr << "ormo-nitf: " << Printable(reason) << '\n';
         return EXIT_WRONG_USE;
     }
     const Isd isd = OpenFile(aOptions.file, {.salvage = aOptions.salvage});

@@ -63,7 +63,7 @@ int Run(const Options& aOptions)
         reason = !reason.empty()      ? reason
                  : segment.IsHeader() ? "ERROR: The file header has no data."
                                       : "ERROR: Which one? An index from 0 is missing, such as image:0.";
-        std::cerr << "ormo-nitf: " << reason << '\n';
+        std::cerr << "ormo-nitf: " << Printable(reason) << '\n';
         return EXIT_WRONG_USE;
     }
     return Extract(aOptions.file, segment, aOptions.out, aOptions.salvage);

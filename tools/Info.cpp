@@ -5,6 +5,7 @@
 #include "tools/Files.h"
 #include "tools/Isd.h"
 #include "tools/Lines.h"
+#include "tools/Output.h"
 #include "tools/SegmentName.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ public:
 
     void Print(const std::string& aPath)
     {
-        m_lines.AddWhole(aPath, Lines::Style::Heading);
+        m_lines.AddWhole(Printable(aPath), Lines::Style::Heading);
         std::istringstream summary(m_isd.GetFileSummary());
         for (std::string line; std::getline(summary, line);) {
             m_lines.Add(2, line);

@@ -4,6 +4,7 @@
 #include "tools/Filter.h"
 #include "tools/Isd.h"
 #include "tools/JsonWriter.h"
+#include "tools/Output.h"
 #include "tools/TypedValue.h"
 
 #include <algorithm>
@@ -189,7 +190,7 @@ Action DeclareJson(CLI::App& aApp)
     return [options] {
         std::string reason;
         if (!options->filter.Prepare(reason)) {
-            std::cerr << "ormo-nitf: " << reason << '\n';
+            std::cerr << "ormo-nitf: " << Printable(reason) << '\n';
             return static_cast<int>(EXIT_WRONG_USE);
         }
         return ForEachFile(options->files, [&options](const std::string& aPath) { return Json(aPath, *options); });

@@ -2,9 +2,11 @@
 
 #include "tools/Isd.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include <sys/stat.h>
@@ -119,6 +121,21 @@ int WriteText(std::string_view aText, const std::string& aTarget, const std::str
 {
     return WriteWith(aTarget, aInput, [aText](std::FILE* aOut) {
         return std::fwrite(aText.data(), 1, aText.size(), aOut) == aText.size();
+    });
+}
+
+std::string Printable(std::string aText)
+{
+    ORMO::SensorModel::CSM::Finding finding;
+    finding.sentence = std::move(aText);
+    return finding.Line();
+}
+
+bool HasControls(std::string_view aText) noexcept
+{
+    return std::any_of(aText.begin(), aText.end(), [](char aCharacter) {
+        const auto byte = static_cast<unsigned char>(aCharacter);
+        return byte < 0x20 || (byte >= 0x7F && byte < 0xA0);
     });
 }
 

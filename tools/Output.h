@@ -37,4 +37,9 @@ int WriteWith(const std::string& aTarget, const std::string& aInput, const std::
 /// Writes all of a text to the named file, or to standard output. Answers the exit code; problems go to standard error.
 int WriteText(std::string_view aText, const std::string& aTarget, const std::string& aInput);
 
+/// A text from a file or a path without a byte that could steer a terminal: such bytes are spelled out.
+std::string Printable(std::string aText);
+/// Whether a text has such bytes; `aText` is Latin-1.
+bool HasControls(std::string_view aText) noexcept;
+
 }  // namespace OrmoNitf

@@ -5,6 +5,7 @@
 #include "tools/Isd.h"
 #include "tools/JsonWriter.h"
 #include "tools/Nearest.h"
+#include "tools/Output.h"
 #include "tools/SegmentName.h"
 #include "tools/TypedValue.h"
 #include "tre/TRECatalogue.h"
@@ -208,8 +209,13 @@ public:
     /// A value as CSV (RFC 4180) has it, in UTF-8, without the blanks around it.
     static std::string Cell(std::string_view aBytes)
     {
+        const std::string_view trimmed = TrimmedBlanks(aBytes);
         std::string text;
-        Util::CSMUtilString::AppendLatin1AsUtf8(TrimmedBlanks(aBytes), text);
+        if (HasControls(trimmed)) {
+            text = Printable(std::string(trimmed));
+        } else {
+            Util::CSMUtilString::AppendLatin1AsUtf8(trimmed, text);
+        }
         if (text.find_first_of(",\"\r\n") == std::string::npos) {
             return text;
         }
@@ -235,7 +241,7 @@ int Table(Options& aOptions)
         good = ParseColumn(aOptions.fields[i], aOptions.columns.emplace_back(), reason);
     }
     if (!good) {
-        std::cerr << "ormo-nitf: " << reason << '\n';
+        std::cerr << "ormo-nitf: " << Printable(reason) << '\n';
         return EXIT_WRONG_USE;
     }
     if (aOptions.format == "csv") {

@@ -3,6 +3,7 @@
 #include "tools/Commands.h"
 #include "tools/Files.h"
 #include "tools/Isd.h"
+#include "tools/Output.h"
 #include "tools/Rules.h"
 
 #include <algorithm>
@@ -66,14 +67,6 @@ std::string Coloured(const std::string& aText, const char* aCode)
 {
     static const bool uses = UsesColour();
     return uses ? "\033[" + std::string(aCode) + 'm' + aText + "\033[0m" : aText;
-}
-
-/// Without a byte that could steer a terminal.
-std::string Printable(std::string aText)
-{
-    Finding finding;
-    finding.sentence = std::move(aText);
-    return finding.Line();
 }
 
 std::string Counted(unsigned long aCount, const char* aWord)
@@ -212,7 +205,11 @@ void PrintJson(const std::string& aFile, const Finding& aFinding)
                 {"sentence", Latin1(aFinding.sentence)},
                 {"detail", text(aFinding.detail)}};
     // A path may hold any bytes.
-    Results() << line.dump(-1, ' ', false, Object::error_handler_t::replace) << '\n';
+    std::string written = line.dump(-1, ' ', false, Object::error_handler_t::replace);
+    for (std::size_t i = written.find('\x7F'); i != std::string::npos; i = written.find('\x7F', i)) {
+        written.replace(i, 1, "\\u007f");
+    }
+    Results() << written << '\n';
 }
 
 int ValidateFile(const std::string& aFile, const Options& aOptions, Totals& aTotals)

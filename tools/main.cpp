@@ -1,6 +1,7 @@
 #include "tools/Commands.h"
 #include "tools/Isd.h"
 #include "tools/Nearest.h"
+#include "tools/Output.h"
 
 #include <exception>
 #include <iostream>
@@ -37,8 +38,8 @@ bool IsWrongCommand(int aCount, char** aArguments)
             return false;
         }
     }
-    std::cerr << "ormo-nitf: ERROR: " << word << " is no command." << OrmoNitf::DidYouMean(word, names)
-              << " ormo-nitf --help lists them all.\n";
+    std::cerr << "ormo-nitf: ERROR: " << OrmoNitf::Printable(word) << " is no command."
+              << OrmoNitf::DidYouMean(word, names) << " ormo-nitf --help lists them all.\n";
     return true;
 }
 
