@@ -395,6 +395,12 @@ public:
     bool RigorousValidation(unsigned long& aErrors, unsigned long& aWarnings) override;
     /// The same as often as it is called, by rules and moment of the caller's choice.
     bool Validate(const ValidationOptions& aOptions, unsigned long& aErrors, unsigned long& aWarnings);
+    /// What RigorousValidation found of the file as a whole and of its header: appends the sections of the report and
+    /// counts. False when there are errors.
+    bool RigorousValidationNITFGlobal(std::string& aReport, unsigned long& aErrors, unsigned long& aWarnings);
+    /// The same of graphics, or of symbols and labels.
+    bool RigorousValidationVersionSpecificDataSegments(std::string& aReport, unsigned long& aErrors,
+                                                       unsigned long& aWarnings);
     /// The findings of the last rigorous validation, those of reading included, errors first.
     std::vector<Finding> GetValidationFindings() const;
     /// The same as lines for a person.

@@ -81,6 +81,23 @@ void Check(const Parts& aParts, std::string_view aNow, Detail::FindingList& aFin
     aFindings.SortBy([&aParts](const Finding& aFinding) { return PlaceOf(aFinding, aParts); });
 }
 
+/// Appends the sections of those findings that are wanted, and counts them. False when errors are among them.
+template<typename Wanted>
+bool ReportPart(const Detail::FindingList& aAll, Wanted aWanted, std::string& aReport, unsigned long& aErrors,
+                unsigned long& aWarnings)
+{
+    Detail::FindingList part;
+    for (std::size_t i = 0; i != aAll.KeptCount(); ++i) {
+        if (aWanted(aAll.Kept(i))) {
+            part.Add(aAll.Kept(i));
+        }
+    }
+    aReport += Detail::ValidationSections(part);
+    aErrors = part.Errors();
+    aWarnings = part.Warnings();
+    return aErrors == 0;
+}
+
 }  // namespace
 
 bool ImageSupportDataNITF::Validate(const ValidationOptions& aOptions, unsigned long& aErrors, unsigned long& aWarnings)
@@ -121,6 +138,31 @@ bool ImageSupportDataNITF::RigorousValidation(unsigned long& aErrors, unsigned l
     aErrors = m_validationErrorCount;
     aWarnings = m_validationWarningCount;
     return aErrors == 0;
+}
+
+bool ImageSupportDataNITF::RigorousValidationNITFGlobal(std::string& aReport, unsigned long& aErrors,
+                                                        unsigned long& aWarnings)
+{
+    RigorousValidation(aErrors, aWarnings);
+    return ReportPart(
+        m_parts->validation,
+        [](const Finding& aFinding) {
+            return aFinding.segment.empty() || aFinding.segment == NITFCnst::XML_ELEMENT_NITF_FILE_HEADER;
+        },
+        aReport, aErrors, aWarnings);
+}
+
+bool ImageSupportDataNITF::RigorousValidationVersionSpecificDataSegments(std::string& aReport, unsigned long& aErrors,
+                                                                         unsigned long& aWarnings)
+{
+    RigorousValidation(aErrors, aWarnings);
+    return ReportPart(
+        m_parts->validation,
+        [this](const Finding& aFinding) {
+            return Detail::IsVersionSpecific(NITFStdDataSegment::GetDataSegmentCode(aFinding.segment.c_str()),
+                                             GetNITFFileVersionCode());
+        },
+        aReport, aErrors, aWarnings);
 }
 
 }  // namespace ORMO::SensorModel::CSM

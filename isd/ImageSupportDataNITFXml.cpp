@@ -50,12 +50,6 @@ void AppendGroups(NITFFieldSegment::Document& aOut, const ImageSupportDataNITF::
     }
 }
 
-bool IsVersionSpecific(NITFCnst::DataSegmentType aKind) noexcept
-{
-    return aKind == NITFCnst::DATA_SEGMENT_TYPE_GRAPHIC || aKind == NITFCnst::DATA_SEGMENT_TYPE_SYMBOL ||
-           aKind == NITFCnst::DATA_SEGMENT_TYPE_LABEL;
-}
-
 bool IsImage(NITFCnst::DataSegmentType aKind) noexcept
 {
     return aKind == NITFCnst::DATA_SEGMENT_TYPE_IMAGE;
@@ -136,7 +130,9 @@ void ImageSupportDataNITF::SerializeImageSegments(std::ostream& aOut) const
 
 void ImageSupportDataNITF::SerializeVersionSpecificDataSegments(std::ostream& aOut) const
 {
-    WriteGroups(aOut, *m_parts, IsVersionSpecific);
+    WriteGroups(aOut, *m_parts, [this](NITFCnst::DataSegmentType aKind) {
+        return Detail::IsVersionSpecific(aKind, m_parts->Version());
+    });
 }
 
 const char* ImageSupportDataNITF::GetSerializedXMLMetadata(const char* aSegment, int aIndex)
@@ -151,7 +147,8 @@ const char* ImageSupportDataNITF::GetSerializedXMLMetadata(const char* aSegment,
 
 const char* ImageSupportDataNITF::GetVersionSpecificSerializedXMLMetadata(const char* aSegment, int aIndex)
 {
-    const bool isSpecific = IsVersionSpecific(NITFStdDataSegment::GetDataSegmentCode(aSegment));
+    const bool isSpecific =
+        Detail::IsVersionSpecific(NITFStdDataSegment::GetDataSegmentCode(aSegment), m_parts->Version());
     return GetSerializedXMLMetadata(isSpecific ? aSegment : "", aIndex);
 }
 

@@ -72,12 +72,17 @@ std::string Document(const std::string& aSummaries)
 
 }  // namespace
 
-std::string ValidationReport(const FindingList& aFindings)
+std::string ValidationSections(const FindingList& aFindings)
 {
     std::string summaries;
     AppendSummaries(summaries, aFindings, true);
     AppendSummaries(summaries, aFindings, false);
-    return Document(summaries);
+    return summaries;
+}
+
+std::string ValidationReport(const FindingList& aFindings)
+{
+    return Document(ValidationSections(aFindings));
 }
 
 std::string ValidationReport(std::string_view aFailure)
