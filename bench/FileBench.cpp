@@ -5,6 +5,10 @@
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/TempFile.h"
 
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -87,5 +91,29 @@ void ValidateFileWithImages(benchmark::State& aState)
     ImageSupportDataFactory::Destroy(&made);
 }
 BENCHMARK(ValidateFileWithImages)->Arg(0)->Arg(1)->Arg(99)->Arg(999);
+
+/// The XML of a file with images of two TREs each, written in pieces; the rate is that of the document.
+void WriteXmlOfFileWithImages(benchmark::State& aState)
+{
+    NitfBuilder builder;
+    for (long i = 0; i != aState.range(0); ++i) {
+        builder.AddImage().Area("IXSHD", Tre("OFFSET", "0000001200000034") + Tre("NOBODY", std::string(500, 'x')));
+    }
+    const TempFile file(builder.Bytes());
+    ImageSupportData* made = nullptr;
+    ImageSupportDataFactory::Create(file.CStr(), &made, true, false);
+    const auto& isd = dynamic_cast<const ImageSupportDataNITF&>(*made);
+    std::FILE* const out = std::tmpfile();
+    long length = 0;
+    for (auto turn : aState) {
+        std::rewind(out);
+        isd.WriteXml(out);
+        length = std::ftell(out);
+    }
+    aState.SetBytesProcessed(static_cast<std::int64_t>(aState.iterations()) * length);
+    std::fclose(out);
+    ImageSupportDataFactory::Destroy(&made);
+}
+BENCHMARK(WriteXmlOfFileWithImages)->Arg(1)->Arg(99)->Arg(999);
 
 }  // namespace

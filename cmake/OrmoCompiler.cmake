@@ -13,6 +13,10 @@ target_compile_options(
               -Woverloaded-virtual -Wimplicit-fallthrough -Wundef
               $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>
               $<$<BOOL:${ORMO_WARNINGS_AS_ERRORS}>:-Werror>)
+if(ORMO_BUILD_FUZZ)
+    # The fuzzer is to see every branch of the library, not only those of its own target.
+    target_compile_options(ormo_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(ORMO_SANITIZE)
     target_compile_options(ormo_settings INTERFACE "-fsanitize=${ORMO_SANITIZE}" -fno-sanitize-recover=all
                                                    -fno-omit-frame-pointer)

@@ -86,7 +86,9 @@ bool FieldRecord::IsBinary(std::string_view aName) const noexcept
 bool FieldRecord::IsEditable(std::string_view aName) const noexcept
 {
     const FieldEntry* const entry = Find(aName);
-    return entry != nullptr && Table().IsEditable(entry->row);
+    // A tag that repeats, or was not read, is asked for as it stands in the table.
+    const std::uint16_t row = entry != nullptr ? entry->row : Table().FindAny(Trimmed(aName));
+    return row != NO_ROW && Table().IsEditable(row);
 }
 
 int FieldRecord::Allows(std::string_view aName, const char* aValue) const

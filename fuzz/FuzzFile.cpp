@@ -16,7 +16,7 @@ using namespace ORMO::SensorModel::CSM;
 
 namespace {
 
-/// The bytes as a file that lives in memory.
+/// The bytes as a file that lives in memory: what salvage takes.
 class MemoryFile
 {
 public:
@@ -36,15 +36,12 @@ private:
     int m_descriptor;
 };
 
-/// Whether the bytes become an object, as they are or as what can be read of them.
-bool Made(const MemoryFile& aFile, ImageSupportData*& aIsd, bool aSalvage)
+/// Whether the call makes an object; a refusal is as good.
+template<typename Make>
+bool IsMade(Make aMake)
 {
     try {
-        if (aSalvage) {
-            ImageSupportDataFactory::Salvage(aFile.Path().c_str(), &aIsd);
-        } else {
-            ImageSupportDataFactory::Create(aFile.Path().c_str(), &aIsd, true, false);
-        }
+        aMake();
         return true;
     } catch (const CSMException&) {
         return false;
@@ -57,9 +54,13 @@ bool Made(const MemoryFile& aFile, ImageSupportData*& aIsd, bool aSalvage)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* aBytes, std::size_t aSize)
 {
-    const MemoryFile file(aBytes, aSize);
     ImageSupportData* isd = nullptr;
-    if (!Made(file, isd, false) && !Made(file, isd, true)) {
+    const bool isWhole =
+        IsMade([&] { ImageSupportDataFactory::CreateFromMemory(aBytes, aSize, false, "fuzz", &isd, true, false); });
+    if (!isWhole && !IsMade([&] {
+            const MemoryFile file(aBytes, aSize);
+            ImageSupportDataFactory::Salvage(file.Path().c_str(), &isd);
+        })) {
         return 0;
     }
     if (isd == nullptr || isd->Serialize() == nullptr) {

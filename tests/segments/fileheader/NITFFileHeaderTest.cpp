@@ -570,6 +570,9 @@ TEST_F(FileHeaderAccessTest, FieldsOfATreAreReachedThroughItsTag)
     EXPECT_FALSE(m_header.IsFieldEditable("ACQUISITION_DATE", "OTHER"));
     EXPECT_TRUE(m_header.IsFieldEditable("FTITLE"));
     EXPECT_FALSE(m_header.IsFieldEditable("HL"));
+    for (const auto& [tag, editable] : *m_header.GetFieldEditabilityMap()) {
+        EXPECT_EQ(editable.starts_with('T'), m_header.IsFieldEditable(tag.c_str())) << tag;
+    }
 }
 
 TEST_F(FileHeaderAccessTest, TablesOfTheHeaderAreParallel)
