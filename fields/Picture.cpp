@@ -1,3 +1,4 @@
+#include "fields/DateText.h"
 #include "fields/ValueRule.h"
 
 #include <algorithm>
@@ -240,6 +241,37 @@ bool PictureMatches(std::string_view aPicture, std::string_view aValue) noexcept
         aValue.remove_prefix(piece.text.size());
     }
     return reader.IsInCalendar();
+}
+
+bool ReadDate(std::string_view aText, DateParts& aParts) noexcept
+{
+    constexpr std::string_view OLD = "DDhhmmssZMONYY";
+    constexpr int FIRST_YEAR = 50;  // of the years of two digits
+    aParts.fill(-1);
+    DateParts parts{};
+    const auto pair = [aText](std::size_t aAt) {
+        int number = 0;
+        return ToNumber(aText.substr(aAt, 2), number) ? number : -1;
+    };
+    if (PictureMatches(OLD, aText)) {
+        const int year = pair(12);
+        parts = {year < 0 ? year : year + (year < FIRST_YEAR ? 2000 : 1900),
+                 static_cast<int>(MonthOf(aText.substr(9, MONTH_LETTERS))),
+                 pair(0),
+                 pair(2),
+                 pair(4),
+                 pair(6)};
+    } else if (PictureMatches("CCYYMMDDhhmmss", aText) || PictureMatches("CCYYMMDD", aText)) {
+        const int century = pair(0);
+        parts = {century < 0 ? century : century * 100 + pair(2), pair(4), pair(6), -1, -1, -1};
+        for (std::size_t i = 3; i != parts.size() && 2 + 2 * i < aText.size(); ++i) {
+            parts[i] = pair(2 + 2 * i);
+        }
+    } else {
+        return false;
+    }
+    std::copy(parts.begin(), std::find(parts.begin(), parts.end(), -1), aParts.begin());
+    return aParts.front() >= 0;
 }
 
 bool IsPicture(std::string_view aPicture) noexcept

@@ -84,6 +84,9 @@ void WriteGroups(std::ostream& aOut, const ImageSupportDataNITF::Parts& aParts, 
 
 const char* ImageSupportDataNITF::Serialize()
 {
+    if (m_parts->header == nullptr) {
+        return nullptr;
+    }
     return SerializeImageSupportDataNITF(GetNITFFileVersionCode() == NITFCnst::NITF_VERSION_NUMBER_20
                                              ? NITFCnst::NITF_VERSION_NUMBER_20
                                              : NITFCnst::NITF_VERSION_NUMBER_21);

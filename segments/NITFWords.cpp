@@ -1,5 +1,6 @@
 #include "segments/NITFWords.h"
 
+#include "fields/DateText.h"
 #include "fields/ValueRule.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
@@ -10,75 +11,6 @@
 #include <cmath>
 
 namespace ORMO::SensorModel::CSM {
-
-namespace {
-
-constexpr std::array<std::string_view, 12> MONTHS{"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
-                                                  "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
-
-/// The parts of a date and time, from the year on; -1 and all behind it unknown.
-using DateParts = std::array<int, 6>;
-
-/// Two or four digits; -1 for hyphens, -2 for anything else.
-int Part(std::string_view aText)
-{
-    if (aText.find_first_not_of('-') == std::string_view::npos) {
-        return -1;
-    }
-    int value = 0;
-    for (const char character : aText) {
-        if (!Detail::IsDigit(character)) {
-            return -2;
-        }
-        value = value * 10 + (character - '0');
-    }
-    return value;
-}
-
-bool IsOfCalendar(const DateParts& aParts)
-{
-    constexpr std::array<int, 12> DAYS{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const auto [year, month, day, hour, minute, second] = aParts;
-    if (year < 0 || std::any_of(aParts.begin(), aParts.end(), [](int aPart) { return aPart < -1; }) || month > 12 ||
-        month == 0 || day == 0 || hour > 23 || minute > 59 || second > 60) {
-        return false;
-    }
-    const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    return month < 0 || day <= DAYS[static_cast<std::size_t>(month) - 1] + (month == 2 && leap ? 1 : 0);
-}
-
-/// CCYYMMDD with or without hhmmss.
-bool ReadLong(std::string_view aText, DateParts& aParts)
-{
-    aParts.fill(-1);
-    if (aText.size() != 8 && aText.size() != 14) {
-        return false;
-    }
-    aParts[0] = Part(aText.substr(0, 4));
-    for (std::size_t i = 1; i != 6 && 2 + 2 * i < aText.size(); ++i) {
-        aParts[i] = Part(aText.substr(2 + 2 * i, 2));
-    }
-    return IsOfCalendar(aParts);
-}
-
-/// DDhhmmssZMONYY; the two digits of the year are of 1950 to 2049.
-bool ReadOld(std::string_view aText, DateParts& aParts)
-{
-    if (aText.size() != 14 || aText[8] != 'Z') {
-        return false;
-    }
-    const auto* const month = std::find(MONTHS.begin(), MONTHS.end(), aText.substr(9, 3));
-    const int year = Part(aText.substr(12, 2));
-    aParts = {year < 0 ? -2 : year + (year < 50 ? 2000 : 1900),
-              month == MONTHS.end() ? -2 : static_cast<int>(month - MONTHS.begin()) + 1,
-              Part(aText.substr(0, 2)),
-              Part(aText.substr(2, 2)),
-              Part(aText.substr(4, 2)),
-              Part(aText.substr(6, 2))};
-    return IsOfCalendar(aParts);
-}
-
-}  // namespace
 
 std::string NITFWords::Shown(std::string_view aText)
 {
@@ -117,8 +49,8 @@ std::string NITFWords::Number(std::string_view aText)
 bool NITFWords::ToIsoDate(std::string_view aText, char aBetween, std::string& aDate)
 {
     const std::string_view text = Detail::Trimmed(aText);
-    DateParts parts{};
-    if (!ReadLong(text, parts) && !ReadOld(text, parts)) {
+    Detail::DateParts parts{};
+    if (!Detail::ReadDate(text, parts)) {
         return false;
     }
     const char between[] = {'\0', '-', '-', aBetween, ':', ':'};

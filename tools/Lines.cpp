@@ -9,14 +9,6 @@ namespace OrmoNitf {
 
 namespace {
 
-bool IsColoured()
-{
-    const char* const none = std::getenv("NO_COLOR");
-    const char* const terminal = std::getenv("TERM");
-    return (none == nullptr || *none == '\0') && ::isatty(STDOUT_FILENO) != 0 &&
-           (terminal == nullptr || std::string_view(terminal) != "dumb");
-}
-
 const char* Escape(Lines::Style aStyle) noexcept
 {
     switch (aStyle) {
@@ -44,6 +36,14 @@ std::size_t BreakOf(std::string_view aText, std::size_t aRoom)
 }
 
 }  // namespace
+
+bool IsColoured()
+{
+    const char* const none = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    return (none == nullptr || *none == '\0') && ::isatty(STDOUT_FILENO) != 0 &&
+           (terminal == nullptr || std::string_view(terminal) != "dumb");
+}
 
 Lines::Lines(std::ostream& aOut) : m_out(aOut), m_coloured(IsColoured()) {}
 

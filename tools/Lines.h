@@ -6,6 +6,9 @@
 
 namespace OrmoNitf {
 
+/// Whether standard output takes colours: a terminal that knows them, and no NO_COLOR.
+bool IsColoured();
+
 /// Text for a person: lines of at most 100 columns, continued further in; colours on a terminal only, and not when
 /// NO_COLOR is set.
 class Lines

@@ -1,8 +1,10 @@
 #include "foundation/CSMUtilString.h"
 #include "isd/ValidationRules.h"
+#include "segments/NITFWords.h"
 #include "tools/Commands.h"
 #include "tools/Files.h"
 #include "tools/Isd.h"
+#include "tools/Lines.h"
 #include "tools/Output.h"
 #include "tools/Rules.h"
 
@@ -57,21 +59,10 @@ struct Totals
     std::atomic<unsigned long> warnings = 0;
 };
 
-bool UsesColour()
-{
-    const char* const refused = std::getenv("NO_COLOR");
-    return ::isatty(STDOUT_FILENO) != 0 && (refused == nullptr || *refused == '\0');
-}
-
 std::string Coloured(const std::string& aText, const char* aCode)
 {
-    static const bool uses = UsesColour();
+    static const bool uses = IsColoured();
     return uses ? "\033[" + std::string(aCode) + 'm' + aText + "\033[0m" : aText;
-}
-
-std::string Counted(unsigned long aCount, const char* aWord)
-{
-    return std::to_string(aCount) + ' ' + aWord + (aCount == 1 ? "" : "s");
 }
 
 bool IsError(const Finding& aFinding) noexcept
@@ -235,7 +226,8 @@ int ValidateFile(const std::string& aFile, const Options& aOptions, Totals& aTot
             PrintJson(aFile, finding);
         }
     } else {
-        Results() << Coloured(Printable(aFile + ": " + Counted(errors, "error") + ", " + Counted(warnings, "warning")),
+        Results() << Coloured(Printable(aFile + ": " + NITFWords::Count(errors, "error") + ", " +
+                                        NITFWords::Count(warnings, "warning")),
                               good ? "32" : "31")
                   << '\n';
         if (form == Form::Text) {
@@ -251,9 +243,10 @@ int ValidateFile(const std::string& aFile, const Options& aOptions, Totals& aTot
 
 void PrintTotals(const Totals& aTotals)
 {
-    std::cout << Counted(aTotals.files, "file") << ", " << aTotals.withErrors << " with errors"
+    std::cout << NITFWords::Count(aTotals.files, "file") << ", " << aTotals.withErrors << " with errors"
               << (aTotals.refused == 0 ? "" : ", " + std::to_string(aTotals.refused) + " cannot be opened") << ": "
-              << Counted(aTotals.errors, "error") << ", " << Counted(aTotals.warnings, "warning") << '\n';
+              << NITFWords::Count(aTotals.errors, "error") << ", " << NITFWords::Count(aTotals.warnings, "warning")
+              << '\n';
 }
 
 /// Takes the rules that are left out and the moment; says what is none.

@@ -29,7 +29,7 @@ protected:
         Tests::NitfBuilder builder(aFormat);
         builder.AddImage();
         builder.AddImage().Set("ISCLAS", "?");
-        builder.AddGraphic().Set("SDLVL", "XXX");
+        builder.AddGraphic().Set("SDLVL", "ABC");
         builder.AddText();
         return Tests::OpenedIsd::OfBytes(builder.Bytes());
     }

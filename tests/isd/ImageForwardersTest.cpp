@@ -4,6 +4,7 @@
 #include "foundation/CSMApi.h"
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/OpenedIsd.h"
+#include "tests/support/RpcRecord.h"
 
 #include <array>
 #include <functional>
@@ -241,28 +242,6 @@ const std::vector<Forwarder>& ImageForwarders()
 }
 // clang-format on
 
-std::string Rpc()
-{
-    std::string data =
-        "1"
-        "0012.50"
-        "0003.25"
-        "004000"
-        "05000"
-        "+45.0000"
-        "+007.0000"
-        "+0250"
-        "003900"
-        "04900"
-        "+00.5000"
-        "+000.6000"
-        "+0300";
-    for (int i = 0; i != 80; ++i) {
-        data += "+0.0000" + Padded(static_cast<std::uint64_t>(i + 10), 2) + "E+3";
-    }
-    return Tre("RPC00B", data);
-}
-
 /// A chip that begins 100 rows and 200 columns into its image.
 std::string Chip()
 {
@@ -296,7 +275,7 @@ NitfBuilder File()
                    Tre("CSCRNA",
                        "N+10.00000+020.00000+00100.0+10.00000+021.00000+00200.0"
                        "+09.00000+021.00000+00300.0+09.00000+020.00000+00400.0") +
-                   Rpc() + Chip());
+                   Tests::Rpc("RPC00B") + Chip());
     builder.LastData() = "\x00\x00\x00\x10\x00\x04\x00\x00\x00\x10\xFF\xFE\x00\x00\x00\x00"s + std::string(144, 'x');
     return builder;
 }

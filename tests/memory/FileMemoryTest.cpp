@@ -4,6 +4,7 @@
 #include "isd/ImageSupportDataNITF.h"
 #include "tests/memory/ShortMemory.h"
 #include "tests/support/NitfBuilder.h"
+#include "tests/support/OpenedIsd.h"
 #include "tests/support/TempFile.h"
 
 #include <cstdio>
@@ -17,11 +18,7 @@
 namespace ORMO::SensorModel::CSM::Tests {
 namespace {
 
-struct Destroyer
-{
-    void operator()(ImageSupportData* aIsd) const { ImageSupportDataFactory::Destroy(&aIsd); }
-};
-using Isd = std::unique_ptr<ImageSupportData, Destroyer>;
+using Isd = std::unique_ptr<ImageSupportData, IsdReleaser>;
 
 std::string FileOf(Format aFormat)
 {

@@ -1,13 +1,11 @@
 // Good and bad values of header fields, written down from the standards and not from the tables of the library.
 
-#include "isd/ImageSupportDataFactory.h"
 #include "isd/ImageSupportDataNITF.h"
 #include "tests/support/NitfBuilder.h"
+#include "tests/support/OpenedIsd.h"
 
 #include <fstream>
 #include <map>
-#include <memory>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,13 +15,8 @@
 namespace ORMO::SensorModel::CSM {
 namespace {
 
-struct Destroyer
-{
-    void operator()(ImageSupportData* aIsd) const { ImageSupportDataFactory::Destroy(&aIsd); }
-};
-
 /// A file with one segment of each kind.
-std::unique_ptr<ImageSupportData, Destroyer> OpenFileOf(Tests::Format aFormat)
+Tests::OpenedIsd OpenFileOf(Tests::Format aFormat)
 {
     Tests::NitfBuilder builder(aFormat);
     builder.AddImage();
@@ -34,10 +27,7 @@ std::unique_ptr<ImageSupportData, Destroyer> OpenFileOf(Tests::Format aFormat)
     builder.AddText();
     builder.AddDes("SOME DES", "data");
     builder.AddRes("SOME RES", "data");
-    const std::string bytes = builder.Bytes();
-    ImageSupportData* made = nullptr;
-    ImageSupportDataFactory::CreateFromMemory(bytes.data(), bytes.size(), true, nullptr, &made, true, false);
-    return std::unique_ptr<ImageSupportData, Destroyer>(made);
+    return Tests::OpenedIsd::OfBytes(builder.Bytes());
 }
 
 const std::map<std::string, NITFCnst::DataSegmentType> KINDS{{"file-header", NITFCnst::DATA_SEGMENT_TYPE_FILE_HEADER},
@@ -65,12 +55,8 @@ std::vector<std::string> Cut(std::string_view aText, char aAt)
 
 TEST(HeaderValuesTest, EveryFieldAllowsWhatItsStandardAllowsAndNothingElse)
 {
-    const std::map<std::string, std::unique_ptr<ImageSupportData, Destroyer>> files = [] {
-        std::map<std::string, std::unique_ptr<ImageSupportData, Destroyer>> made;
-        made["20"] = OpenFileOf(Tests::Format::Nitf20);
-        made["21"] = OpenFileOf(Tests::Format::Nitf21);
-        return made;
-    }();
+    const Tests::OpenedIsd file20 = OpenFileOf(Tests::Format::Nitf20);
+    const Tests::OpenedIsd file21 = OpenFileOf(Tests::Format::Nitf21);
     std::ifstream list(ORMO_SOURCE_DIR "/tests/data/header-values.csv");
     std::string line;
     std::getline(list, line);
@@ -78,7 +64,7 @@ TEST(HeaderValuesTest, EveryFieldAllowsWhatItsStandardAllowsAndNothingElse)
     while (std::getline(list, line)) {
         const std::vector<std::string> row = Cut(line, ',');
         ASSERT_EQ(5U, row.size()) << line;
-        const auto& isd = dynamic_cast<const ImageSupportDataNITF&>(*files.at(row[0]));
+        const ImageSupportDataNITF& isd = row[0] == "20" ? *file20 : *file21;
         const NITFFieldSegment* const segment = isd.GetSegment(KINDS.at(row[1]), 0);
         ASSERT_NE(nullptr, segment) << line;
         for (const std::string& value : Cut(row[4], '|')) {

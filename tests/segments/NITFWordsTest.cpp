@@ -13,6 +13,9 @@ TEST(NITFWordsTest, DatesOfBothVersionsAreShownUpToTheFirstUnknownPart)
     EXPECT_EQ(NITFWords::Date("20000602192321", 'T'), "2000-06-02T19:23:21Z");
     EXPECT_EQ(NITFWords::Date("02192321ZJUN00"), "2000-06-02 19:23:21Z");
     EXPECT_EQ(NITFWords::Date("14213214ZNOV96"), "1996-11-14 21:32:14Z");
+    EXPECT_EQ(NITFWords::Date("14213214ZNOV50"), "1950-11-14 21:32:14Z");
+    EXPECT_EQ(NITFWords::Date("14213214ZNOV49"), "2049-11-14 21:32:14Z");
+    EXPECT_EQ(NITFWords::Date("--------ZNOV96"), "1996-11");
     EXPECT_EQ(NITFWords::Date("20000602------"), "2000-06-02");
     EXPECT_EQ(NITFWords::Date("200006--------"), "2000-06");
     EXPECT_EQ(NITFWords::Date("2000060219----"), "2000-06-02 19:--Z");

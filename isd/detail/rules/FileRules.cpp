@@ -1,5 +1,6 @@
 // Rules of the file around its segments: lengths, dates, classification, streams, and TREs that speak of other headers.
 
+#include "fields/DateText.h"
 #include "fields/MessageText.h"
 #include "fields/ValueRule.h"
 #include "foundation/detail/Ascii.h"
@@ -15,8 +16,6 @@ namespace ORMO::SensorModel::CSM::Detail {
 namespace {
 
 using namespace RuleWords;
-
-constexpr std::size_t DATE_WIDTH = 14;
 
 void SubheaderLength(const FileView& aFile, const Report& aReport)
 {
@@ -37,62 +36,22 @@ void SubheaderLength(const FileView& aFile, const Report& aReport)
     }
 }
 
-/// A date as CCYYMMDDhhmmss up to its first unknown pair; empty when it is none.
-class Moment
+/// Whether both are known far enough to say that the first one comes later.
+bool IsAfter(const DateParts& aFirst, const DateParts& aSecond) noexcept
 {
-public:
-    Moment(std::string_view aText, bool aIs20)
-    {
-        if (aText.size() != DATE_WIDTH) {
-            return;
-        }
-        if (!aIs20) {
-            Take(aText);
-            return;
-        }
-        // DDHHMMSSZMONYY; the first years that have two digits are those of the standard.
-        constexpr std::string_view MONTHS = "JANFEBMARAPRMAYJUNJULAUGSEPOCTNOVDEC";
-        const auto month = MONTHS.find(aText.substr(9, 3));
-        if (aText[8] != 'Z' || month == std::string_view::npos || month % 3 != 0) {
-            return;
-        }
-        const auto number = static_cast<char>(month / 3 + 1);
-        const char century = aText[12] >= '7' ? '1' : '2';
-        const char text[] = {century,
-                             century == '1' ? '9' : '0',
-                             aText[12],
-                             aText[13],
-                             static_cast<char>('0' + number / 10),
-                             static_cast<char>('0' + number % 10),
-                             aText[0],
-                             aText[1],
-                             aText[2],
-                             aText[3],
-                             aText[4],
-                             aText[5],
-                             aText[6],
-                             aText[7]};
-        Take({text, sizeof text});
-    }
-    /// Whether both are known far enough to say that this one comes later.
-    bool IsAfter(const Moment& aOther) const noexcept
-    {
-        const std::size_t common = std::min(m_length, aOther.m_length);
-        return std::string_view(m_text.data(), common) > std::string_view(aOther.m_text.data(), common);
-    }
+    const auto unknown = [](const DateParts& aParts) { return std::ranges::find(aParts, -1) - aParts.begin(); };
+    const auto known = std::min(unknown(aFirst), unknown(aSecond));
+    return std::lexicographical_compare(aSecond.begin(), aSecond.begin() + known, aFirst.begin(),
+                                        aFirst.begin() + known);
+}
 
-private:
-    void Take(std::string_view aText) noexcept
-    {
-        for (; m_length != aText.size() && IsDigit(aText[m_length]); ++m_length) {
-            m_text[m_length] = aText[m_length];
-        }
-        m_length -= m_length % 2;
-    }
-
-    std::array<char, DATE_WIDTH> m_text{};
-    std::size_t m_length = 0;
-};
+/// Nothing is known of a text that is no date.
+DateParts DateOfText(std::string_view aText) noexcept
+{
+    DateParts date{};
+    static_cast<void>(ReadDate(aText, date));
+    return date;
+}
 
 const char* DateField(const HeaderView& aHeader) noexcept
 {
@@ -103,17 +62,17 @@ const char* DateField(const HeaderView& aHeader) noexcept
 }
 
 /// The date of a header; one that is none has a rule of its own.
-Moment DateOf(const HeaderView& aHeader)
+DateParts DateOf(const HeaderView& aHeader)
 {
     const FieldStore& fields = aHeader.Inside().record.Store();
     const FieldEntry* const entry = fields.Find(DateField(aHeader));
     const bool isDate = entry != nullptr && CheckValue(fields.Row(*entry), fields.Value(*entry)) == Verdict::Good;
-    return {isDate ? fields.Value(*entry) : std::string_view{}, aHeader.Is20()};
+    return DateOfText(isDate ? fields.Value(*entry) : std::string_view{});
 }
 
-void FutureDate(const HeaderView& aHeader, const Moment& aNow, const FileView& aFile, const Report& aReport)
+void FutureDate(const HeaderView& aHeader, const DateParts& aNow, const FileView& aFile, const Report& aReport)
 {
-    if (DateField(aHeader) != nullptr && DateOf(aHeader).IsAfter(aNow)) {
+    if (DateField(aHeader) != nullptr && IsAfter(DateOf(aHeader), aNow)) {
         aReport(aHeader, {.field = DateField(aHeader),
                           .allowed = "up to " + std::string(aFile.Now()) + ", the moment of the validation"});
     }
@@ -121,7 +80,7 @@ void FutureDate(const HeaderView& aHeader, const Moment& aNow, const FileView& a
 
 void NoFutureDate(const FileView& aFile, const Report& aReport)
 {
-    const Moment now(aFile.Now(), false);
+    const DateParts now = DateOfText(aFile.Now());
     FutureDate(aFile.Header(), now, aFile, aReport);
     for (const HeaderView& segment : aFile.Segments()) {
         FutureDate(segment, now, aFile, aReport);
@@ -130,9 +89,9 @@ void NoFutureDate(const FileView& aFile, const Report& aReport)
 
 void NotAfterFile(const FileView& aFile, const Report& aReport)
 {
-    const Moment file = DateOf(aFile.Header());
+    const DateParts file = DateOf(aFile.Header());
     for (const HeaderView& segment : aFile.Segments()) {
-        if (DateField(segment) != nullptr && DateOf(segment).IsAfter(file)) {
+        if (DateField(segment) != nullptr && IsAfter(DateOf(segment), file)) {
             aReport(segment,
                     {.field = DateField(segment), .allowed = "up to FDT, " + Shown(aFile.Header().Text("FDT"))});
         }
@@ -261,17 +220,17 @@ void DatasetTimes(const FileView& aFile, const Report& aReport)
     if (dataset == nullptr || dataset->IsGenericTRE()) {
         return;
     }
-    const Moment processed(ViewOf(dataset->GetTREField("PROCESS_TIME")), false);
-    const Moment file = DateOf(aFile.Header());
-    if (processed.IsAfter(file) || file.IsAfter(processed)) {
+    const DateParts processed = DateOfText(ViewOf(dataset->GetTREField("PROCESS_TIME")));
+    const DateParts file = DateOf(aFile.Header());
+    if (IsAfter(processed, file) || IsAfter(file, processed)) {
         aReport(aFile.Header(),
                 {.field = "PROCESS_TIME", .allowed = "FDT, " + Shown(aFile.Header().Text("FDT")), .tre = dataset});
     }
-    const Moment taken(ViewOf(dataset->GetTREField("TIME")), false);
+    const DateParts taken = DateOfText(ViewOf(dataset->GetTREField("TIME")));
     for (const HeaderView& segment : aFile.Segments()) {
         if (segment.Kind() == NITFCnst::DATA_SEGMENT_TYPE_IMAGE && segment.FindTre("CSEXRA") != nullptr) {
-            const Moment image = DateOf(segment);
-            if (taken.IsAfter(image) || image.IsAfter(taken)) {
+            const DateParts image = DateOf(segment);
+            if (IsAfter(taken, image) || IsAfter(image, taken)) {
                 aReport(aFile.Header(),
                         {.field = "TIME", .allowed = "IDATIM, " + Shown(segment.Text("IDATIM")), .tre = dataset});
             }

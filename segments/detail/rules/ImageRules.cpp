@@ -220,6 +220,9 @@ void NeedlessZero(const HeaderView& aHeader, const Report& aReport)
     }
 }
 
+constexpr const char* NEEDS_PIXELS =
+    "all pixels would have to be read; a validation reads headers and the first bytes of data";
+
 // clang-format off
 constexpr Rule RULES[] = {
     {"PV-01", ERROR, ALL, Subject::Image, "PVTYPE, NBPP, IC",
@@ -241,7 +244,7 @@ constexpr Rule RULES[] = {
     Rule{"PV-05", WARN, ALL, Subject::Image, "ABPP, NBPP, PJUST and pixels",
      "Unused bits of pixels are not zero.",
      "Uncompressed bits outside the ABPP significant ones are zero, on the side that PJUST leaves free.",
-     "MIL-STD-2500C table A-3, PJUST"}.NotChecked("all pixels would have to be read; a validation reads headers and the first bytes of data"),
+     "MIL-STD-2500C table A-3, PJUST"}.NotChecked(NEEDS_PIXELS),
     {"PV-06", WARN, ALL, Subject::Image, "NBPP 12, ABPP",
      "Packed pixels of 12 bits have bits without a meaning.",
      "Without compression NBPP 12 means that two pixels share three bytes, so ABPP is 12.",
@@ -253,7 +256,7 @@ constexpr Rule RULES[] = {
     Rule{"SZ-02", WARN, ALL, Subject::Image, "NELUT and pixels",
      "A pixel lies beyond its look-up table.",
      "No pixel of a band with tables is larger than NELUT - 1.",
-     "MIL-STD-2500C table A-3, NELUT"}.NotChecked("all pixels would have to be read; a validation reads headers and the first bytes of data"),
+     "MIL-STD-2500C table A-3, NELUT"}.NotChecked(NEEDS_PIXELS),
     {"MO-01", WARN, ALL, Subject::Image, "IMODE, band count",
      "The mode of an image with one band is not B.",
      "With one band B, P and R order the pixels alike, and B is to be written.",

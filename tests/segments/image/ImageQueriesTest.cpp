@@ -3,6 +3,7 @@
 #include "segments/image/NITFImageDataMaskSubheader.h"
 #include "tests/segments/BuiltSegment.h"
 #include "tests/support/NitfBuilder.h"
+#include "tests/support/RpcRecord.h"
 #include "tre/TREFactory.h"
 
 #include <array>
@@ -404,30 +405,6 @@ TEST(ImageFootprintTest, ChipsAreToldByTheirRecord)
 }
 
 // ---- Rational polynomial coefficients
-
-std::string Rpc(const char* aTag)
-{
-    std::string data =
-        "1"
-        "0012.50"
-        "0003.25"
-        "004000"
-        "05000"
-        "+45.0000"
-        "+007.0000"
-        "+0250"
-        "003900"
-        "04900"
-        "+00.5000"
-        "+000.6000"
-        "+0300";
-    for (int group = 0; group != 4; ++group) {
-        for (int i = 0; i != 20; ++i) {
-            data += "+0.0000" + Padded(static_cast<std::uint64_t>(group * 20 + i + 10), 2) + "E+3";
-        }
-    }
-    return Tre(aTag, data);
-}
 
 TEST(ImageRpcTest, CoefficientsComeInTheOrderOfRpc00bFromEitherRecord)
 {
