@@ -171,7 +171,9 @@ public:
     bool GetMensurationCapabilities(bool& aPosition, bool& aDistance, bool& aArea, bool& aHeight, bool& aUncertainty,
                                     const char* aSensorModelName, int aSegment) override;
 
-    // Where an image lies on the ground, and of which image it is a chip.
+    // Where an image lies on the ground, and of which image it is a chip. Latitudes and longitudes are those of the
+    // corner pixels in degrees, NITFImgExtent::NUM_OF_CORNERS of each in the order of IGEOLO; heights are metres above
+    // the ellipsoid.
 
     const NITFImgExtent* GetImageExtentInformation(std::size_t aIndex) const;
     bool HasIGEOLOGeographicExtent(std::size_t aIndex) const;
@@ -202,7 +204,9 @@ public:
     /// ICHIPB, else ICHIPA; null when the image is no chip.
     const TRE* GetICHIPTRE(std::size_t aIndex) const;
 
-    // The rational polynomial coefficients of an image (see TreRPC00).
+    // The rational polynomial coefficients of an image (see TreRPC00): four times twenty, in the order of RPC00B
+    // whichever TRE they come from. Latitudes and longitudes are degrees, heights and errors metres, lines and samples
+    // pixels.
 
     /// 'B' or 'A' for the TRE that gives them; false when there is none.
     bool GetRPC00Availability(char& aAvailability, std::size_t aIndex) const;

@@ -133,7 +133,7 @@ public:
     /// Location and place, as the operations above.
     bool GetCommonCoordinateSys(long& aRow, long& aColumn, long& aCCSRow, long& aCCSColumn) const override;
 
-    // ---- Footprint (see NITFImgExtent)
+    // ---- Footprint (see NITFImgExtent): corner pixels in degrees, four of each in the order of IGEOLO
 
     /// '\0' when the field is blank or means that there is no location.
     char GetFieldICORDS() const;
