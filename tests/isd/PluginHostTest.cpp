@@ -1,6 +1,7 @@
 #if defined(ORMO_HOST_DIR)
 
 #include "tests/support/Process.h"
+#include "tests/support/SourceDir.h"
 
 #include <fstream>
 #include <iterator>
@@ -16,7 +17,7 @@ using Tests::RunCommand;
 
 std::string Expected()
 {
-    std::ifstream file(std::string(ORMO_SOURCE_DIR) + "/tests/csmhost/expected.txt");
+    std::ifstream file(Tests::SourceDir() + "/tests/csmhost/expected.txt");
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

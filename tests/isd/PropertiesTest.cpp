@@ -2,6 +2,7 @@
 #include "isd/ImageSupportDataFactory.h"
 #include "isd/PropertyCatalogue.h"
 #include "tests/support/NitfBuilder.h"
+#include "tests/support/SourceDir.h"
 #include "tests/support/TempFile.h"
 #include "tre/NITFMetadataHelper.h"
 #include "tre/TRECatalogue.h"
@@ -292,7 +293,7 @@ std::string TextOf(const std::string& aPath)
 TEST(PropertyCatalogueTest, EveryKeyHasARowWhoseSourcesExist)
 {
     const std::vector<PropertyCatalogue::Key> keys = PropertyCatalogue::GetAllKeys();
-    const std::string header = TextOf(ORMO_SOURCE_DIR "/foundation/PropertyKey.h");
+    const std::string header = TextOf(SourceDir() + "/foundation/PropertyKey.h");
     std::size_t constants = 0;
     for (auto at = header.find("static constexpr"); at != std::string::npos;
          at = header.find("static constexpr", at + 1)) {
@@ -316,7 +317,7 @@ TEST(PropertyCatalogueTest, EveryKeyHasARowWhoseSourcesExist)
 
 TEST(PropertyCatalogueTest, ThePageOfTheDocumentsIsMadeFromTheTable)
 {
-    EXPECT_EQ(TextOf(ORMO_SOURCE_DIR "/docs/properties.md"), PropertyCatalogue::GetPage())
+    EXPECT_EQ(TextOf(SourceDir() + "/docs/properties.md"), PropertyCatalogue::GetPage())
         << "ormo-nitf property --keys > docs/properties.md";
 }
 

@@ -3,6 +3,7 @@
 #include "isd/ImageSupportDataNITF.h"
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/OpenedIsd.h"
+#include "tests/support/SourceDir.h"
 
 #include <fstream>
 #include <map>
@@ -57,7 +58,7 @@ TEST(HeaderValuesTest, EveryFieldAllowsWhatItsStandardAllowsAndNothingElse)
 {
     const Tests::OpenedIsd file20 = OpenFileOf(Tests::Format::Nitf20);
     const Tests::OpenedIsd file21 = OpenFileOf(Tests::Format::Nitf21);
-    std::ifstream list(ORMO_SOURCE_DIR "/tests/data/header-values.csv");
+    std::ifstream list(Tests::SourceDir() + "/tests/data/header-values.csv");
     std::string line;
     std::getline(list, line);
     int values = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/SourceDir.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -13,7 +15,7 @@ inline std::filesystem::path CorpusFile(const char* aName)
 {
     const char* const directory = std::getenv("ORMO_CORPUS");
     return (directory != nullptr ? std::filesystem::path(directory)
-                                 : std::filesystem::path(ORMO_SOURCE_DIR) / "../shared/corpus") /
+                                 : std::filesystem::path(SourceDir()) / "../shared/corpus") /
            aName;
 }
 
