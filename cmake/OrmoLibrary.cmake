@@ -55,4 +55,6 @@ if(ORMO_BUILD_TESTS OR ORMO_BUILD_BENCH OR ORMO_BUILD_FUZZ)
     target_link_libraries(ormo_csm_internal PUBLIC ormo_csm_objects ormo_settings ormo_csmapi ${CMAKE_DL_LIBS}
                                                    ${ORMO_XML_LIBRARY})
     set_target_properties(ormo_csm_internal PROPERTIES LINKER_LANGUAGE CXX)
+    # Who sees the internals sees them as the library does, where they are hidden.
+    target_compile_options(ormo_csm_internal INTERFACE -fvisibility=hidden)
 endif()

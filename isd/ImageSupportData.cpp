@@ -33,7 +33,7 @@ constexpr const char* NOT_SUPPORTED = "Function not supported.";
 }  // namespace
 
 /// What each thread's last query said.
-struct ImageSupportData::Queries : Detail::QueryMessages
+struct ORMO_CSM_LOCAL ImageSupportData::Queries : Detail::QueryMessages
 {
 };
 

@@ -70,7 +70,8 @@ std::string GDALNITFFileReader::WhyNotNITFFile(const char* aPath)
            (bytes.size() < IDENTITY_LENGTH ? ", the file ends at " + std::to_string(bytes.size()) : "");
 }
 
-GDALNITFFileReader::GDALNITFFileReader(std::shared_ptr<const Detail::GdalRaster> aRaster) : m_raster(std::move(aRaster))
+GDALNITFFileReader::GDALNITFFileReader(std::shared_ptr<const GDALNITFRasterBand::Raster> aRaster)
+    : m_raster(std::move(aRaster))
 {
 }
 

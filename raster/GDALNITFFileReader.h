@@ -40,9 +40,9 @@ public:
     std::optional<GDALNITFRasterBand> GetRasterBand(std::uint32_t aBand) const;
 
 private:
-    explicit GDALNITFFileReader(std::shared_ptr<const Detail::GdalRaster> aRaster);
+    explicit GDALNITFFileReader(std::shared_ptr<const GDALNITFRasterBand::Raster> aRaster);
 
-    std::shared_ptr<const Detail::GdalRaster> m_raster;
+    std::shared_ptr<const GDALNITFRasterBand::Raster> m_raster;
 };
 
 }  // namespace ORMO::SensorModel::CSM

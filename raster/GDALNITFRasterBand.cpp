@@ -9,7 +9,7 @@ namespace ORMO::SensorModel::CSM {
 static_assert(GDALNITFRasterBand::DATA_TYPE_UINT8 == static_cast<std::uint32_t>(ORMO_SAMPLE_UINT8) &&
               GDALNITFRasterBand::DATA_TYPE_COMPLEX64 == static_cast<std::uint32_t>(ORMO_SAMPLE_COMPLEX64));
 
-GDALNITFRasterBand::GDALNITFRasterBand(std::shared_ptr<const Detail::GdalRaster> aRaster, std::uint32_t aBand)
+GDALNITFRasterBand::GDALNITFRasterBand(std::shared_ptr<const Raster> aRaster, std::uint32_t aBand)
     : m_raster(std::move(aRaster)), m_band(aBand)
 {
 }

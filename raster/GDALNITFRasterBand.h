@@ -9,15 +9,14 @@
 
 namespace ORMO::SensorModel::CSM {
 
-namespace Detail {
-class GdalRaster;
-}
-
 /// One band of an image segment as GDAL reads it. Keeps the image open; may be used from several threads, which take
 /// turns.
 class ORMO_CSM_API GDALNITFRasterBand
 {
 public:
+    /// The open image, known inside the library only.
+    class Raster;
+
     /// The samples of a band, in the byte order of the machine.
     enum DataType : std::uint32_t
     {
@@ -48,9 +47,9 @@ public:
 private:
     friend class GDALNITFFileReader;
 
-    GDALNITFRasterBand(std::shared_ptr<const Detail::GdalRaster> aRaster, std::uint32_t aBand);
+    GDALNITFRasterBand(std::shared_ptr<const Raster> aRaster, std::uint32_t aBand);
 
-    std::shared_ptr<const Detail::GdalRaster> m_raster;
+    std::shared_ptr<const Raster> m_raster;
     std::uint32_t m_band;
 };
 

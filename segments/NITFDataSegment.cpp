@@ -47,11 +47,6 @@ NITFFieldSegment::Input& Checked(const NITFFieldSegment::Layout& aLayout, NITFFi
 
 }  // namespace
 
-struct NITFDataSegment::Data : Detail::SegmentData
-{
-    using SegmentData::SegmentData;
-};
-
 NITFDataSegment::NITFDataSegment(const Layout& aLayout, Input& aInput)
     : NITFFieldSegment(aLayout, Checked(aLayout, aInput)),
       m_number(aInput.info.GetSegmentIndex()),
@@ -125,11 +120,6 @@ bool NITFDataSegment::IsDataAvailable() const noexcept
 bool NITFDataSegment::HasDataSource() const noexcept
 {
     return m_data->HasSource();
-}
-
-const std::shared_ptr<const Detail::ByteSource>& NITFDataSegment::DataSource() const noexcept
-{
-    return m_data->Source();
 }
 
 bool NITFDataSegment::ReadData(std::string& aOut) const

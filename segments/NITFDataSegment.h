@@ -9,10 +9,6 @@
 
 namespace ORMO::SensorModel::CSM {
 
-namespace Detail {
-class ByteSource;
-}
-
 /// What all subheaders share: a subheader that is read when the object is made, and data behind it
 /// that stay in the file until somebody asks for them.
 class ORMO_CSM_API NITFDataSegment : public NITFFieldSegment
@@ -64,14 +60,12 @@ protected:
     std::string DataFault() const;
     /// Whether there is a file to read the data from.
     bool HasDataSource() const noexcept;
-    /// The file that the data stand in; null for a segment without one.
-    const std::shared_ptr<const Detail::ByteSource>& DataSource() const noexcept;
+    struct Data;
+    const Data& TheData() const noexcept { return *m_data; }
     /// An element with the data as text or, when XML cannot carry them, in base64.
     void AppendDataElement(const char* aElement, Document& aOut) const;
 
 private:
-    struct Data;
-
     int m_number = -1;
     std::shared_ptr<const Data> m_data;  // copies of a segment look at the same data
     std::string m_xml;

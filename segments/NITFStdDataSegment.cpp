@@ -100,7 +100,7 @@ void NITFStdDataSegment::DeleteCharBuffer(char** aBuffer) noexcept
 }
 
 /// What reading or validating said, and what each thread's last query said.
-struct NITFStdDataSegment::Messages
+struct ORMO_CSM_LOCAL NITFStdDataSegment::Messages
 {
     std::string error;
     std::string warning;

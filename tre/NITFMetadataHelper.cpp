@@ -50,7 +50,7 @@ bool GuardedText(const char*& aValue, std::size_t& aLength, Ask aAsk) noexcept
 
 }  // namespace
 
-struct NITFMetadataHelper::Parts
+struct ORMO_CSM_LOCAL NITFMetadataHelper::Parts
 {
     const ImageSupportDataNITF* isd = nullptr;
     ImageSupportData* own = nullptr;  ///< opened by the helper itself

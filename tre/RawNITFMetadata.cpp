@@ -12,7 +12,7 @@ namespace ORMO::SensorModel::CSM {
 
 using Arrays = RawNITFMetadata::Arrays;
 
-struct RawNITFMetadata::State
+struct ORMO_CSM_LOCAL RawNITFMetadata::State
 {
     Detail::Lazy<std::unique_ptr<const Arrays>> arrays;
 };

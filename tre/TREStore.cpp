@@ -42,7 +42,7 @@ struct TagMap
 
 }  // namespace
 
-struct TREStore::Contents
+struct ORMO_CSM_LOCAL TREStore::Contents
 {
     std::vector<TRE*> tres;
     bool owns = true;  ///< else another store has the TREs

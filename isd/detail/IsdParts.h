@@ -27,7 +27,7 @@ struct PropertyRow;
 }
 
 /// A file, or a block of memory, that is to become an ISD.
-struct ImageSupportDataNITF::Request
+struct ORMO_CSM_LOCAL ImageSupportDataNITF::Request
 {
     std::string path;                                  ///< trimmed
     std::shared_ptr<const Detail::ByteSource> source;  ///< null when the path leads to nothing that can be read
@@ -75,7 +75,7 @@ struct IsdStream
 }  // namespace Detail
 
 /// What was read of a file: its header and one vector of segments in file order.
-struct ImageSupportDataNITF::Parts
+struct ORMO_CSM_LOCAL ImageSupportDataNITF::Parts
 {
     static constexpr std::size_t KIND_COUNT = 9;
 

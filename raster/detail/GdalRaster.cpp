@@ -5,11 +5,15 @@
 
 #include <dlfcn.h>
 
-namespace ORMO::SensorModel::CSM::Detail {
+namespace ORMO::SensorModel::CSM {
 
 namespace {
-
 constexpr std::size_t REASON_SIZE = 1024;
+}
+
+namespace Detail {
+
+namespace {
 
 /// The directory that this very code was loaded from, with the separator; empty when the system does not tell it.
 std::string OwnDirectory()
@@ -86,20 +90,24 @@ std::size_t SampleBytes(OrmoSampleType aType) noexcept
     }
 }
 
-GdalRaster::GdalRaster(const OrmoPixelDriver& aDriver, void* aRaster) : m_driver(aDriver), m_raster(aRaster)
+}  // namespace Detail
+
+GDALNITFRasterBand::Raster::Raster(const OrmoPixelDriver& aDriver, void* aRaster) : m_driver(aDriver), m_raster(aRaster)
 {
     m_driver.describe(m_raster, &m_shape);
 }
 
-GdalRaster::~GdalRaster()
+GDALNITFRasterBand::Raster::~Raster()
 {
     m_driver.close(m_raster);
 }
 
-std::shared_ptr<const GdalRaster> GdalRaster::Open(const std::string& aFile, std::uint32_t aImage,
-                                                   bool& aIsDriverMissing, std::string& aReason)
+std::shared_ptr<const GDALNITFRasterBand::Raster> GDALNITFRasterBand::Raster::Open(const std::string& aFile,
+                                                                                   std::uint32_t aImage,
+                                                                                   bool& aIsDriverMissing,
+                                                                                   std::string& aReason)
 {
-    const OrmoPixelDriver* const driver = PixelDriver(aReason);
+    const OrmoPixelDriver* const driver = Detail::PixelDriver(aReason);
     aIsDriverMissing = driver == nullptr;
     if (driver == nullptr) {
         return nullptr;
@@ -110,16 +118,16 @@ std::shared_ptr<const GdalRaster> GdalRaster::Open(const std::string& aFile, std
         aReason = reason.data();
         return nullptr;
     }
-    return std::shared_ptr<const GdalRaster>(new GdalRaster(*driver, raster));
+    return std::shared_ptr<const Raster>(new Raster(*driver, raster));
 }
 
-OrmoSampleType GdalRaster::TypeOf(std::uint32_t aBand) const
+OrmoSampleType GDALNITFRasterBand::Raster::TypeOf(std::uint32_t aBand) const
 {
     const std::lock_guard lock(m_turn);
     return m_driver.typeOf(m_raster, aBand);
 }
 
-bool GdalRaster::Read(const OrmoRasterRequest& aRequest, void* aOut, std::string& aReason) const
+bool GDALNITFRasterBand::Raster::Read(const OrmoRasterRequest& aRequest, void* aOut, std::string& aReason) const
 {
     std::array<char, REASON_SIZE> reason{};
     const std::lock_guard lock(m_turn);
@@ -130,4 +138,4 @@ bool GdalRaster::Read(const OrmoRasterRequest& aRequest, void* aOut, std::string
     return isRead;
 }
 
-}  // namespace ORMO::SensorModel::CSM::Detail
+}  // namespace ORMO::SensorModel::CSM

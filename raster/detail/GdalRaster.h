@@ -1,5 +1,6 @@
 #pragma once
 
+#include "raster/GDALNITFRasterBand.h"
 #include "raster/detail/PixelDriver.h"
 
 #include <cstddef>
@@ -7,7 +8,9 @@
 #include <mutex>
 #include <string>
 
-namespace ORMO::SensorModel::CSM::Detail {
+namespace ORMO::SensorModel::CSM {
+
+namespace Detail {
 
 /// The library that reads pixels through GDAL, loaded when first asked for: from the directory of this library, else
 /// from where the system looks. Null, with the reason, when there is none.
@@ -16,16 +19,18 @@ const OrmoPixelDriver* PixelDriver(std::string& aReason);
 /// Bytes of one sample.
 std::size_t SampleBytes(OrmoSampleType aType) noexcept;
 
+}  // namespace Detail
+
 /// One image segment opened through GDAL. May be used from several threads, which take turns.
-class GdalRaster
+class ORMO_CSM_LOCAL GDALNITFRasterBand::Raster
 {
 public:
     /// Null, with the reason, when the library is missing (`aIsDriverMissing`) or cannot decode the segment.
-    static std::shared_ptr<const GdalRaster> Open(const std::string& aFile, std::uint32_t aImage,
-                                                  bool& aIsDriverMissing, std::string& aReason);
-    ~GdalRaster();
-    GdalRaster(const GdalRaster&) = delete;
-    GdalRaster& operator=(const GdalRaster&) = delete;
+    static std::shared_ptr<const Raster> Open(const std::string& aFile, std::uint32_t aImage, bool& aIsDriverMissing,
+                                              std::string& aReason);
+    ~Raster();
+    Raster(const Raster&) = delete;
+    Raster& operator=(const Raster&) = delete;
 
     const OrmoRasterShape& Shape() const noexcept { return m_shape; }
     /// The type in which a band that exists is held.
@@ -34,7 +39,7 @@ public:
     [[nodiscard]] bool Read(const OrmoRasterRequest& aRequest, void* aOut, std::string& aReason) const;
 
 private:
-    GdalRaster(const OrmoPixelDriver& aDriver, void* aRaster);
+    Raster(const OrmoPixelDriver& aDriver, void* aRaster);
 
     const OrmoPixelDriver& m_driver;
     void* m_raster;
@@ -42,4 +47,8 @@ private:
     mutable std::mutex m_turn;
 };
 
-}  // namespace ORMO::SensorModel::CSM::Detail
+namespace Detail {
+using GdalRaster = GDALNITFRasterBand::Raster;
+}
+
+}  // namespace ORMO::SensorModel::CSM

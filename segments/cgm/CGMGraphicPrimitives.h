@@ -17,7 +17,7 @@ protected:                                                                      
     using NITFCGMGraphicPrimitive::operator=;                                                      \
                                                                                                    \
 private:                                                                                           \
-    friend class Detail::CgmPrimitiveParts;                                                        \
+    friend class NITFCGMGraphicPrimitive::Parts;                                                   \
     explicit aClass(std::vector<int> aNumbers)                                                     \
         : NITFCGMGraphicPrimitive(CGMCnst::BinaryC4GraphicalPrimitive::aCode, std::move(aNumbers)) \
     {                                                                                              \
@@ -185,7 +185,7 @@ protected:
     bool CloneObj(const NITFCGMGraphicPrimitive& aOther) override;
 
 private:
-    friend class Detail::CgmPrimitiveParts;
+    friend class NITFCGMGraphicPrimitive::Parts;
     CGMGraphicPrimitiveText(std::vector<int> aNumbers, std::string aFont, std::string aText);
 
     std::string m_font;

@@ -40,8 +40,8 @@ std::size_t NITFCGMGraphicPrimitive::Encoding(char** aOut, CGMCnst::EncodingType
         return 0;
     }
     *aOut = nullptr;
-    const auto geometry = Detail::CgmPrimitiveParts::Geometry(*this);
-    const auto text = Detail::CgmPrimitiveParts::Text(*this);
+    const auto geometry = Parts::Geometry(*this);
+    const auto text = Parts::Text(*this);
     std::string element;
     if (aType == CGMCnst::ENCODING_TYPE_CLEAR_TEXT) {
         Detail::AppendCgmClearText(Row(m_code), geometry, text, element);
@@ -54,7 +54,6 @@ std::size_t NITFCGMGraphicPrimitive::Encoding(char** aOut, CGMCnst::EncodingType
 
 bool NITFCGMGraphicPrimitive::operator==(const NITFCGMGraphicPrimitive& aOther) const
 {
-    using Parts = Detail::CgmPrimitiveParts;
     return m_code == aOther.m_code && m_numbers == aOther.m_numbers && Parts::Font(*this) == Parts::Font(aOther) &&
            std::ranges::equal(Parts::Text(*this), Parts::Text(aOther));
 }
@@ -105,19 +104,17 @@ std::size_t NITFCGMGraphicPrimitive::GeometrySize() const noexcept
     return m_numbers.size() - Row(m_code).slots.count;
 }
 
-namespace Detail {
-
-std::span<const int> CgmPrimitiveParts::Attributes(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
+std::span<const int> NITFCGMGraphicPrimitive::Parts::Attributes(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
 {
     return {aPrimitive.m_numbers.data(), Row(aPrimitive.m_code).slots.count};
 }
 
-std::span<const int> CgmPrimitiveParts::Geometry(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
+std::span<const int> NITFCGMGraphicPrimitive::Parts::Geometry(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
 {
     return {aPrimitive.Geometry(), aPrimitive.GeometrySize()};
 }
 
-std::span<const std::string> CgmPrimitiveParts::Text(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
+std::span<const std::string> NITFCGMGraphicPrimitive::Parts::Text(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
 {
     if (aPrimitive.m_code != CGMCnst::BinaryC4GraphicalPrimitive::CODE_TEXT) {
         return {};
@@ -125,7 +122,7 @@ std::span<const std::string> CgmPrimitiveParts::Text(const NITFCGMGraphicPrimiti
     return {&static_cast<const CGMGraphicPrimitiveText&>(aPrimitive).m_text, 1};
 }
 
-std::string_view CgmPrimitiveParts::Font(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
+std::string_view NITFCGMGraphicPrimitive::Parts::Font(const NITFCGMGraphicPrimitive& aPrimitive) noexcept
 {
     if (aPrimitive.m_code != CGMCnst::BinaryC4GraphicalPrimitive::CODE_TEXT) {
         return {};
@@ -133,13 +130,11 @@ std::string_view CgmPrimitiveParts::Font(const NITFCGMGraphicPrimitive& aPrimiti
     return static_cast<const CGMGraphicPrimitiveText&>(aPrimitive).m_font;
 }
 
-NITFCGMGraphicPrimitive* CgmPrimitiveParts::Copy(const NITFCGMGraphicPrimitive& aPrimitive)
+NITFCGMGraphicPrimitive* NITFCGMGraphicPrimitive::Parts::Copy(const NITFCGMGraphicPrimitive& aPrimitive)
 {
     const auto text = Text(aPrimitive);
     return Row(aPrimitive.m_code)
         .make(aPrimitive.m_numbers, std::string(Font(aPrimitive)), text.empty() ? std::string() : text[0]);
 }
-
-}  // namespace Detail
 
 }  // namespace ORMO::SensorModel::CSM

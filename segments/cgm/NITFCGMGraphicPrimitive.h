@@ -8,16 +8,15 @@
 
 namespace ORMO::SensorModel::CSM {
 
-namespace Detail {
-class CgmPrimitiveParts;
-}
-
 /// One thing that a CGM draws: its geometry in virtual device coordinates (signed 16-bit integers; in NITF graphics
 /// pixels, x to the right and y down) and the attributes that held when it was read, so that it can be drawn or written
 /// again without the rest of the metafile. ISO 8632-1, MIL-STD-2301.
 class ORMO_CSM_API NITFCGMGraphicPrimitive
 {
 public:
+    /// What all primitives have alike, known inside the library only.
+    class Parts;
+
     virtual ~NITFCGMGraphicPrimitive();
 
     /// The id of its element: CGMCnst::BinaryC4GraphicalPrimitive.
@@ -52,8 +51,6 @@ protected:
     std::size_t GeometrySize() const noexcept;
 
 private:
-    friend class Detail::CgmPrimitiveParts;
-
     int m_code;
     std::vector<int> m_numbers;
 };

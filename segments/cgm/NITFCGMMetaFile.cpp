@@ -52,14 +52,18 @@ std::string ReadFrom(std::FILE* aFile, const NITFStdDataSegmentInfo* aInfo)
     return bytes;
 }
 
-std::unique_ptr<const Detail::CgmContents> Decoded(std::string_view aStream)
+}  // namespace
+
+struct ORMO_CSM_LOCAL NITFCGMMetaFile::Contents : Detail::CgmContents
 {
-    auto contents = std::make_unique<Detail::CgmContents>();
+};
+
+std::unique_ptr<const NITFCGMMetaFile::Contents> NITFCGMMetaFile::Decoded(std::string_view aStream)
+{
+    auto contents = std::make_unique<Contents>();
     Detail::CgmDecoder(aStream, *contents).Run();
     return contents;
 }
-
-}  // namespace
 
 NITFCGMMetaFile::NITFCGMMetaFile(const char* aData, long aAttachmentLevel, long aDisplayLevel, long aRow, long aColumn,
                                  std::size_t aSize)
@@ -96,7 +100,7 @@ NITFCGMMetaFile::NITFCGMMetaFile(const NITFCGMMetaFile& aOther)
       m_offsetRow(aOther.m_offsetRow),
       m_offsetColumn(aOther.m_offsetColumn),
       m_placed(aOther.m_placed),
-      m_contents(std::make_unique<Detail::CgmContents>(*aOther.m_contents))
+      m_contents(std::make_unique<Contents>(*aOther.m_contents))
 {
 }
 

@@ -16,10 +16,6 @@ namespace ORMO::SensorModel::CSM {
 
 class NITFStdDataSegmentInfo;
 
-namespace Detail {
-struct CgmContents;
-}
-
 /// Why reading a metafile ended before the end of its data.
 struct CGMFault
 {
@@ -115,6 +111,9 @@ public:
         short aCharacterHeight = CGMCnst::BinaryC5Attribute::VAL_NITF_DEFAULT_CODE_CHARACTER_HEIGHT);
 
 private:
+    struct Contents;
+
+    static std::unique_ptr<const Contents> Decoded(std::string_view aStream);
     void CheckPlace() const;
 
     std::string m_raw;
@@ -125,7 +124,7 @@ private:
     long m_offsetRow = 0;
     long m_offsetColumn = 0;
     bool m_placed;
-    std::unique_ptr<const Detail::CgmContents> m_contents;
+    std::unique_ptr<const Contents> m_contents;
 };
 
 }  // namespace ORMO::SensorModel::CSM

@@ -29,7 +29,7 @@ std::string InvalidValue(const char* aField)
 }  // namespace
 
 /// The data cut into fields, or why they cannot be.
-struct NITFDESSubheader::TypedData
+struct ORMO_CSM_LOCAL NITFDESSubheader::TypedData
 {
     struct Fields
     {

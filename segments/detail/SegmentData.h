@@ -2,6 +2,7 @@
 
 #include "fields/ByteSource.h"
 #include "foundation/detail/Lazy.h"
+#include "segments/NITFDataSegment.h"
 
 #include <cstdint>
 #include <functional>
@@ -59,3 +60,12 @@ private:
 };
 
 }  // namespace ORMO::SensorModel::CSM::Detail
+
+namespace ORMO::SensorModel::CSM {
+
+struct ORMO_CSM_LOCAL NITFDataSegment::Data : Detail::SegmentData
+{
+    using SegmentData::SegmentData;
+};
+
+}  // namespace ORMO::SensorModel::CSM

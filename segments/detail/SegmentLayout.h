@@ -19,7 +19,7 @@
 namespace ORMO::SensorModel::CSM {
 
 /// One version of one kind of header: its rows and what its texts say in a way of their own.
-struct NITFFieldSegment::Layout
+struct ORMO_CSM_LOCAL NITFFieldSegment::Layout
 {
     const char* className;  ///< in the texts of assignments
     const char* source;     ///< of the exception that a failed read raises
@@ -33,7 +33,7 @@ struct NITFFieldSegment::Layout
 };
 
 /// What a header is made from.
-struct NITFFieldSegment::Input
+struct ORMO_CSM_LOCAL NITFFieldSegment::Input
 {
     std::string raw;                                   ///< the header's bytes; taken over
     NITFStdDataSegmentInfo info;                       ///< where they stand
@@ -61,14 +61,14 @@ struct NITFFieldSegment::Input
 };
 
 /// What the XML of a header is written to.
-class NITFFieldSegment::Document : public Detail::XmlOut
+class ORMO_CSM_LOCAL NITFFieldSegment::Document : public Detail::XmlOut
 {
 public:
     using XmlOut::XmlOut;
 };
 
 /// What was read of one header, and the lists and maps over it that are made when somebody asks for them.
-struct NITFFieldSegment::Parts
+struct ORMO_CSM_LOCAL NITFFieldSegment::Parts
 {
     const Layout* layout = nullptr;
     std::string raw;

@@ -1,12 +1,10 @@
 #include "segments/image/NITFImageDataMaskSubheader.h"
 
-#include "fields/ByteSource.h"
 #include "fields/FieldRecord.h"
-#include "fields/FieldTable.h"
 #include "fields/MessageText.h"
 #include "fields/Number.h"
 #include "nitf/NITFCnst.h"
-#include "segments/image/detail/PixelLayout.h"
+#include "segments/image/detail/ImageDataMask.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,31 +58,38 @@ std::string Refused(std::string_view aField, std::uint64_t aValue, const std::st
 
 }  // namespace
 
-NITFImageDataMaskSubheader::NITFImageDataMaskSubheader() : m_fields(std::make_unique<FieldRecord>(Table())) {}
-
-NITFImageDataMaskSubheader::~NITFImageDataMaskSubheader() = default;
-
-const FieldTable& NITFImageDataMaskSubheader::Table() noexcept
+const FieldTable& Detail::ImageDataMaskTable() noexcept
 {
     static constexpr FieldTable table = TABLE.View();
     return table;
 }
 
-std::shared_ptr<const NITFImageDataMaskSubheader> NITFImageDataMaskSubheader::Read(
-    std::shared_ptr<const ByteSource> aSource, const PixelLayout& aLayout, std::string& aErrors)
+struct ORMO_CSM_LOCAL NITFImageDataMaskSubheader::Parts
 {
+    FieldRecord fields{ImageDataMaskTable()};
+    std::shared_ptr<const ByteSource> source;
+};
+
+NITFImageDataMaskSubheader::NITFImageDataMaskSubheader() : m_parts(std::make_unique<Parts>()) {}
+
+NITFImageDataMaskSubheader::~NITFImageDataMaskSubheader() = default;
+
+std::shared_ptr<const NITFImageDataMaskSubheader> NITFImageDataMaskSubheader::Read(const Image& aImage,
+                                                                                   std::string& aErrors)
+{
+    const auto& [source, layout] = aImage;
     std::string bytes;
-    if (aSource == nullptr || !aSource->ReadUpTo(aLayout.dataOffset, std::min(MOST_FIXED, aLayout.dataLength), bytes)) {
+    if (source == nullptr || !source->ReadUpTo(layout.dataOffset, std::min(MOST_FIXED, layout.dataLength), bytes)) {
         AppendBlock(aErrors, "ERROR: The image data mask cannot be read.");
         return nullptr;
     }
     std::shared_ptr<NITFImageDataMaskSubheader> mask(new NITFImageDataMaskSubheader);
-    FieldRecord& fields = *mask->m_fields;
+    FieldRecord& fields = mask->m_parts->fields;
     if (!fields.Read(bytes).IsGood() || !fields.As("IMDATOFF", mask->m_pixels) ||
         !fields.As("BMRLNTH", mask->m_blockLength) || !fields.As("TMRLNTH", mask->m_padLength) ||
         !fields.As("TPXCDLNTH", mask->m_codeBits)) {
         AppendBlock(aErrors, "ERROR: The image data mask is cut short: the image has " +
-                                 std::to_string(aLayout.dataLength) + " byte(s) of data.");
+                                 std::to_string(layout.dataLength) + " byte(s) of data.");
         return nullptr;
     }
     for (const auto& [name, length] : {std::pair<std::string_view, std::uint64_t>{"BMRLNTH", mask->m_blockLength},
@@ -96,35 +101,35 @@ std::shared_ptr<const NITFImageDataMaskSubheader> NITFImageDataMaskSubheader::Re
     }
     const std::uint64_t fixed = 10 + mask->GetFieldTPXCD().size();
     std::uint64_t table = 0;
-    mask->m_bands = aLayout.MaskBands();
+    mask->m_bands = layout.MaskBands();
     // Both factors of the sum below are small enough once the product is known to fit the data.
-    if (!Product({aLayout.blocksPerRow, aLayout.blocksPerColumn}, mask->m_blocks) ||
-        !Product({mask->m_blocks, mask->m_bands, OFFSET_LENGTH}, table) || table > aLayout.dataLength) {
+    if (!Product({layout.blocksPerRow, layout.blocksPerColumn}, mask->m_blocks) ||
+        !Product({mask->m_blocks, mask->m_bands, OFFSET_LENGTH}, table) || table > layout.dataLength) {
         AppendBlock(aErrors, "ERROR: The image data mask has no room for the offsets of its blocks in " +
-                                 std::to_string(aLayout.dataLength) + " byte(s) of data.");
+                                 std::to_string(layout.dataLength) + " byte(s) of data.");
         return nullptr;
     }
     const std::uint64_t whole = fixed + (mask->HasBlockMask() ? table : 0) + (mask->HasPadPixelMask() ? table : 0);
-    if (mask->m_pixels < whole || mask->m_pixels > aLayout.dataLength) {
+    if (mask->m_pixels < whole || mask->m_pixels > layout.dataLength) {
         AppendBlock(aErrors, Refused("IMDATOFF", mask->m_pixels,
                                      "the table takes " + std::to_string(whole) +
-                                         " byte(s), the data of the image have " + std::to_string(aLayout.dataLength)));
+                                         " byte(s), the data of the image have " + std::to_string(layout.dataLength)));
         return nullptr;
     }
-    mask->m_blockTable = aLayout.dataOffset + fixed;
+    mask->m_blockTable = layout.dataOffset + fixed;
     mask->m_padTable = mask->m_blockTable + (mask->HasBlockMask() ? table : 0);
-    mask->m_source = std::move(aSource);
+    mask->m_parts->source = source;
     return mask;
 }
 
 std::string_view NITFImageDataMaskSubheader::FieldText(std::string_view aName) const noexcept
 {
-    return m_fields->Text(aName);
+    return m_parts->fields.Text(aName);
 }
 
 std::string_view NITFImageDataMaskSubheader::GetFieldTPXCD() const noexcept
 {
-    return m_fields->Text("TPXCD");
+    return m_parts->fields.Text("TPXCD");
 }
 
 bool NITFImageDataMaskSubheader::ReadOffsets(std::uint64_t aStart, std::uint64_t aFirst, std::uint64_t aCount,
@@ -134,7 +139,7 @@ bool NITFImageDataMaskSubheader::ReadOffsets(std::uint64_t aStart, std::uint64_t
         return false;
     }
     std::string bytes;
-    if (!m_source->Read(aStart + (aBand * m_blocks + aFirst) * OFFSET_LENGTH, aCount * OFFSET_LENGTH, bytes)) {
+    if (!m_parts->source->Read(aStart + (aBand * m_blocks + aFirst) * OFFSET_LENGTH, aCount * OFFSET_LENGTH, bytes)) {
         return false;
     }
     aOffsets.clear();

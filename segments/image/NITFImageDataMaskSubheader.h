@@ -11,13 +11,6 @@
 
 namespace ORMO::SensorModel::CSM {
 
-namespace Detail {
-class ByteSource;
-class FieldRecord;
-class FieldTable;
-struct PixelLayout;
-}  // namespace Detail
-
 /// The image data mask table (MIL-STD-2500C, table A-3(A)), which stands in front of the pixels when IC has an M: where
 /// each block lies, which blocks hold pad pixels, and the value of those. Its fixed part is read when the object is
 /// made, the offsets of the blocks when they are asked for.
@@ -29,11 +22,12 @@ public:
     /// The offset of a block that is not in the file, and of one without pad pixels.
     static constexpr std::uint32_t NOT_RECORDED = 0xFFFFFFFFU;
 
+    /// The bytes and the layout of an image, known inside the library only.
+    struct Image;
+
     /// Reads the table at the start of the data of an image. Null, with the reason appended to `aErrors`, when its
     /// fields or its length do not fit the image and its data.
-    static std::shared_ptr<const NITFImageDataMaskSubheader> Read(std::shared_ptr<const Detail::ByteSource> aSource,
-                                                                  const Detail::PixelLayout& aLayout,
-                                                                  std::string& aErrors);
+    static std::shared_ptr<const NITFImageDataMaskSubheader> Read(const Image& aImage, std::string& aErrors);
     ~NITFImageDataMaskSubheader();
     NITFImageDataMaskSubheader(const NITFImageDataMaskSubheader&) = delete;
     NITFImageDataMaskSubheader& operator=(const NITFImageDataMaskSubheader&) = delete;
@@ -64,17 +58,15 @@ public:
     bool GetBlockOffsets(std::uint64_t aFirst, std::uint64_t aCount, std::uint64_t aBand,
                          std::vector<std::uint32_t>& aOffsets) const;
 
-    /// The table of the fixed part.
-    static const Detail::FieldTable& Table() noexcept;
-
 private:
+    struct Parts;
+
     NITFImageDataMaskSubheader();
 
     bool ReadOffsets(std::uint64_t aStart, std::uint64_t aFirst, std::uint64_t aCount, std::uint64_t aBand,
                      std::vector<std::uint32_t>& aOffsets) const;
 
-    std::shared_ptr<const Detail::ByteSource> m_source;
-    std::unique_ptr<Detail::FieldRecord> m_fields;
+    std::unique_ptr<Parts> m_parts;
     std::uint64_t m_blockTable = 0;  // places in the file
     std::uint64_t m_padTable = 0;
     std::uint64_t m_blocks = 0;

@@ -16,10 +16,6 @@ namespace ORMO::SensorModel::CSM {
 class NITFImageDataMaskSubheader;
 class TreRPC00;
 
-namespace Detail {
-struct PixelWindow;
-}
-
 /// The subheader of one image segment with all that follows from it: bands and look-up tables, layout of the pixels and
 /// the pixels themselves, footprint, location in the common coordinate system and rational polynomial coefficients.
 /// NITF20ImageSubheader reads MIL-STD-2500A, NITF21ImageSubheader MIL-STD-2500C (table A-3), which also serves
@@ -240,8 +236,6 @@ private:
     const Attributes& TheAttributes() const;
     const TRE* FindTRE(const char* aTag) const;
     std::vector<const TRE*> FindTREs(const char* aTag) const;
-    Status RetrieveWindow(const Detail::PixelWindow& aWindow, std::uint64_t aBufferSize, void* aBuffer,
-                          std::FILE* aFile) const;
 
     std::unique_ptr<Derived> m_derived;
 };

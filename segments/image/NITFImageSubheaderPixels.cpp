@@ -1,6 +1,7 @@
 // Bands, data mask and pixels of an image.
 
 #include "fields/ByteSource.h"
+#include "segments/detail/SegmentData.h"
 #include "segments/detail/SegmentLayout.h"
 #include "segments/image/NITFImageDataMaskSubheader.h"
 #include "segments/image/NITFImageSubheader.h"
@@ -103,7 +104,7 @@ const Detail::ImagePixels& NITFImageSubheader::Derived::Pixels(const NITFImageSu
 {
     return *pixels.Get([&aImage] {
         return std::unique_ptr<const Detail::ImagePixels>(
-            std::make_unique<Detail::ImagePixels>(aImage.TheAttributes().layout, aImage.DataSource(),
+            std::make_unique<Detail::ImagePixels>(aImage.TheAttributes().layout, aImage.TheData().Source(),
                                                   static_cast<std::uint32_t>(aImage.GetImageSegmentNumber())));
     });
 }
@@ -190,9 +191,10 @@ NITFImagePixelReader::Status NITFImageSubheader::RetrieveImageOverview(int aBand
                                                                        void* aBuffer) const
 {
     const Detail::PixelLayout& layout = TheAttributes().layout;
-    return RetrieveWindow({0, 0, layout.rows, layout.columns, static_cast<std::uint64_t>(aBand),
-                           static_cast<std::uint64_t>(aStep < 0 ? 0 : aStep)},
-                          aBufferSize, aBuffer, nullptr);
+    return m_derived->Read(*this,
+                           {0, 0, layout.rows, layout.columns, static_cast<std::uint64_t>(aBand),
+                            static_cast<std::uint64_t>(aStep < 0 ? 0 : aStep)},
+                           aBufferSize, aBuffer, nullptr);
 }
 
 NITFImagePixelReader::Status NITFImageSubheader::RetrieveImagePixels(int aFirstRow, int aFirstColumn, int aRows,
@@ -201,17 +203,19 @@ NITFImagePixelReader::Status NITFImageSubheader::RetrieveImagePixels(int aFirstR
 {
     // Negative numbers become huge ones, which are out of range.
     const auto unsignedOf = [](int aNumber) { return static_cast<std::uint64_t>(std::int64_t{aNumber}); };
-    return RetrieveWindow({unsignedOf(aFirstRow), unsignedOf(aFirstColumn), unsignedOf(aRows), unsignedOf(aColumns),
-                           unsignedOf(aBand), 1},
-                          aBufferSize < 0 ? 0 : static_cast<std::uint64_t>(aBufferSize), aBuffer, aFile);
+    return m_derived->Read(*this,
+                           {unsignedOf(aFirstRow), unsignedOf(aFirstColumn), unsignedOf(aRows), unsignedOf(aColumns),
+                            unsignedOf(aBand), 1},
+                           aBufferSize < 0 ? 0 : static_cast<std::uint64_t>(aBufferSize), aBuffer, aFile);
 }
 
-NITFImagePixelReader::Status NITFImageSubheader::RetrieveWindow(const Detail::PixelWindow& aWindow,
-                                                                std::uint64_t aBufferSize, void* aBuffer,
-                                                                std::FILE* aFile) const
+NITFImagePixelReader::Status NITFImageSubheader::Derived::Read(const NITFImageSubheader& aImage,
+                                                               const Detail::PixelWindow& aWindow,
+                                                               std::uint64_t aBufferSize, void* aBuffer,
+                                                               std::FILE* aFile) const
 {
     try {
-        const Detail::PixelAnswer answer = m_derived->Pixels(*this).Read(aWindow, aBufferSize, aBuffer, aFile);
+        const Detail::PixelAnswer answer = Pixels(aImage).Read(aWindow, aBufferSize, aBuffer, aFile);
         return Answer(answer.status, answer.text.c_str());
     } catch (const std::bad_alloc&) {
         return Answer(STATUS_OUT_OF_MEMORY, "ERROR: System out of memory.");

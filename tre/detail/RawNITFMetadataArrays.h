@@ -11,7 +11,7 @@
 namespace ORMO::SensorModel::CSM {
 
 /// What GetMatadata hands out.
-struct RawNITFMetadata::Source
+struct ORMO_CSM_LOCAL RawNITFMetadata::Source
 {
     const char* dataType = nullptr;
     const EditabilityMap* editability = nullptr;
@@ -26,7 +26,7 @@ struct RawNITFMetadata::Source
 };
 
 /// All arrays of one object. The texts stand in one block, each with a NUL behind it, and the arrays point into it.
-struct RawNITFMetadata::Arrays
+struct ORMO_CSM_LOCAL RawNITFMetadata::Arrays
 {
     std::size_t definedCount = 0;
     std::size_t presentCount = 0;

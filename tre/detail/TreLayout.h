@@ -22,7 +22,7 @@ using TreLayout = TRE::Layout;
 }  // namespace ORMO::SensorModel::CSM::Detail
 
 /// All that is known of one tag: what its help says and how its data are cut into fields.
-struct ORMO::SensorModel::CSM::TRE::Layout
+struct ORMO_CSM_LOCAL ORMO::SensorModel::CSM::TRE::Layout
 {
     const char* tag;
     const char* name;        ///< long name

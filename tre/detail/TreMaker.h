@@ -5,6 +5,7 @@
 #include "tre/TRE.h"
 #include "tre/detail/TreFault.h"
 #include "tre/detail/TreLayout.h"
+#include "tre/groups/SupportedTreGroup.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,28 +16,30 @@ namespace ORMO::SensorModel::CSM {
 
 class SupportedTRE;
 
-namespace Detail {
-
 /// One tag of a group: its constants and, when it has a typed class, how to make objects of it.
-struct TreEntry
+struct ORMO_CSM_LOCAL SupportedTreGroup::Entry
 {
     const char* tag = nullptr;
     std::int32_t code = -1;
     TRE::Type type = TRE::TRE_TYPE_CONTROLLED_EXTENSION;
-    const TreLayout& (*layout)() = nullptr;
+    const Detail::TreLayout& (*layout)() = nullptr;
     TRE* (*make)(TRE::Parts& aParts) = nullptr;
     bool listed = true;  ///< false for a tag that is read through another tag's class
 
     constexpr bool IsTyped() const noexcept { return make != nullptr; }
 
     /// The same entry for a registered extension.
-    constexpr TreEntry Registered() const noexcept
+    constexpr Entry Registered() const noexcept
     {
-        TreEntry entry = *this;
+        Entry entry = *this;
         entry.type = TRE::TRE_TYPE_REGISTERED_EXTENSION;
         return entry;
     }
 };
+
+namespace Detail {
+
+using TreEntry = SupportedTreGroup::Entry;
 
 /// Releases a TRE as its maker wants it.
 struct TreReleaser

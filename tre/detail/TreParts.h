@@ -14,7 +14,7 @@
 namespace ORMO::SensorModel::CSM {
 
 /// All that a TRE holds. Who makes TREs, or asks of their fields inside the library, works on this.
-struct TRE::Parts
+struct ORMO_CSM_LOCAL TRE::Parts
 {
     static constexpr std::size_t TAG_WIDTH = 6;
     static constexpr std::size_t LENGTH_WIDTH = 5;

@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-namespace ORMO::SensorModel::CSM::Detail {
+namespace ORMO::SensorModel::CSM {
 
 /// All primitives alike: numbers in the order of the element's row, and the text of a text.
-class CgmPrimitiveParts
+class ORMO_CSM_LOCAL NITFCGMGraphicPrimitive::Parts
 {
 public:
     /// What the primitive took on from the attribute state: the slots of its row.
@@ -36,4 +36,8 @@ public:
     }
 };
 
-}  // namespace ORMO::SensorModel::CSM::Detail
+namespace Detail {
+using CgmPrimitiveParts = NITFCGMGraphicPrimitive::Parts;
+}
+
+}  // namespace ORMO::SensorModel::CSM

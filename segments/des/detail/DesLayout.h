@@ -4,7 +4,7 @@
 #include "segments/des/DesFieldSet.h"
 
 /// All that is known of the subheader fields or the data of one DES type.
-struct ORMO::SensorModel::CSM::DesFieldSet::Layout
+struct ORMO_CSM_LOCAL ORMO::SensorModel::CSM::DesFieldSet::Layout
 {
     const char* type;     ///< the identifier: DESID or DESTAG without blanks
     const char* name;     ///< long name

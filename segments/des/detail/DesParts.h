@@ -8,7 +8,7 @@
 #include <vector>
 
 /// All that a DES type holds. Who asks of its fields inside the library works on this.
-struct ORMO::SensorModel::CSM::DesFieldSet::Parts
+struct ORMO_CSM_LOCAL ORMO::SensorModel::CSM::DesFieldSet::Parts
 {
     struct Names
     {

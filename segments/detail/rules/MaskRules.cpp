@@ -2,8 +2,7 @@
 #include "fields/MessageText.h"
 #include "segments/detail/rules/FieldChecks.h"
 #include "segments/detail/rules/HeaderView.h"
-#include "segments/image/NITFImageDataMaskSubheader.h"
-#include "segments/image/detail/PixelLayout.h"
+#include "segments/image/detail/ImageDataMask.h"
 
 #include <algorithm>
 #include <string>
@@ -46,7 +45,7 @@ bool ReadFields(const HeaderView& aHeader, FieldRecord& aFields)
 /// False when there is nothing to compare: what cannot be read is a fault of the fields.
 bool ReadMask(const HeaderView& aHeader, Mask& aOut)
 {
-    FieldRecord fields(NITFImageDataMaskSubheader::Table());
+    FieldRecord fields(ImageDataMaskTable());
     const ImageFacts& image = aHeader.Image();
     const std::uint64_t bands = image.mode == "S" ? image.bands : 1;
     if (!ReadFields(aHeader, fields) || !fields.As("IMDATOFF", aOut.offset) ||
@@ -287,7 +286,7 @@ void CheckMaskFields(const HeaderView& aHeader, FindingList& aFindings)
     if (!aHeader.Looks(Subject::Mask)) {
         return;
     }
-    FieldRecord fields(NITFImageDataMaskSubheader::Table());
+    FieldRecord fields(ImageDataMaskTable());
     static_cast<void>(ReadFields(aHeader, fields));
     Finding place;
     place.owner = "ImageDataMask";

@@ -6,6 +6,7 @@
 #include "segments/image/detail/PixelLayout.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -13,7 +14,7 @@
 namespace ORMO::SensorModel::CSM {
 
 /// What follows from the fields and the TREs of an image subheader and is asked for often.
-struct NITFImageSubheader::Attributes
+struct ORMO_CSM_LOCAL NITFImageSubheader::Attributes
 {
     NITFCnst::IC compression = NITFCnst::IC_UNKNOWN;
     const char* compressionCode = nullptr;
@@ -35,7 +36,7 @@ struct NITFImageSubheader::Attributes
 };
 
 /// The parts of an image that are made when somebody asks for them, and what a sensor model gave.
-struct NITFImageSubheader::Derived
+struct ORMO_CSM_LOCAL NITFImageSubheader::Derived
 {
     struct SensorModelCorners
     {
@@ -53,6 +54,8 @@ struct NITFImageSubheader::Derived
     std::optional<SensorModelCorners> sensorModel;
 
     const Detail::ImagePixels& Pixels(const NITFImageSubheader& aImage) const;
+    Status Read(const NITFImageSubheader& aImage, const Detail::PixelWindow& aWindow, std::uint64_t aBufferSize,
+                void* aBuffer, std::FILE* aFile) const;
 };
 
 }  // namespace ORMO::SensorModel::CSM

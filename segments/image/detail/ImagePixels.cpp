@@ -1,6 +1,6 @@
 #include "segments/image/detail/ImagePixels.h"
 
-#include "raster/detail/GdalRaster.h"
+#include "segments/image/detail/ImageDataMask.h"
 #include "segments/image/detail/UncompressedPixels.h"
 
 #include <string_view>
@@ -79,7 +79,7 @@ std::shared_ptr<const NITFImageDataMaskSubheader> ImagePixels::Mask(std::string&
     }
     const std::lock_guard lock(m_guard);
     if (m_mask == nullptr && m_maskError.empty()) {
-        m_mask = NITFImageDataMaskSubheader::Read(m_source, m_layout, m_maskError);
+        m_mask = NITFImageDataMaskSubheader::Read({m_source, m_layout}, m_maskError);
     }
     aReason = m_maskError;
     return m_mask;
@@ -98,7 +98,7 @@ PixelAnswer ImagePixels::ReadUncompressed(const PixelWindow& aWindow, char* aOut
     }
     std::shared_ptr<const NITFImageDataMaskSubheader> mask;
     if (m_layout.IsMasked()) {
-        mask = aFile == nullptr ? Mask(reason) : NITFImageDataMaskSubheader::Read(source, m_layout, reason);
+        mask = aFile == nullptr ? Mask(reason) : NITFImageDataMaskSubheader::Read({source, m_layout}, reason);
         if (mask == nullptr) {
             return {Reader::STATUS_INVALID_MASK, reason};
         }

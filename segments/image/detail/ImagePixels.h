@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields/ByteSource.h"
+#include "raster/detail/GdalRaster.h"
 #include "segments/image/NITFImageDataMaskSubheader.h"
 #include "segments/image/detail/PixelLayout.h"
 
@@ -11,8 +12,6 @@
 #include <string>
 
 namespace ORMO::SensorModel::CSM::Detail {
-
-class GdalRaster;
 
 /// The pixels of one image segment: its layout, its file, and, once somebody asked for them, its data mask and its
 /// decoder. May be used from several threads.
