@@ -135,7 +135,9 @@ void FileReader::BuildInfos()
     const std::uint64_t covered = isUsable ? std::max(fileLength, SumOfLengths()) : fileLength;
     std::string errors;
     if (!m_parts.infos.Build(header.GetVersion(), headerLength, covered, header.GetSegmentLengths(), errors)) {
-        m_findings.Add(Detail::MakeFinding(errors), errors);
+        // The length of the file is what a header with readable numbers can still have wrong.
+        m_findings.Add(covered < headerLength ? header.Inside().About(errors, "FL") : Detail::MakeFinding(errors),
+                       errors);
         Refuse(m_findings);
     }
 }

@@ -61,12 +61,20 @@ struct HeaderNumbers
     }
 };
 
+/// What a walk looks at: all numbers, or only those that say where the header ends.
+enum class Reach
+{
+    All,
+    End
+};
+
 /// Walks the rows of the header from HL on, with one number changed.
 class NumberWalk
 {
 public:
-    NumberWalk(std::string_view aBytes, const FieldTable& aTable, NITFCnst::Version aVersion, Change aChange)
-        : m_bytes(aBytes), m_table(aTable), m_version(aVersion), m_change(aChange)
+    NumberWalk(std::string_view aBytes, const FieldTable& aTable, NITFCnst::Version aVersion, Change aChange,
+               Reach aReach)
+        : m_bytes(aBytes), m_table(aTable), m_version(aVersion), m_change(aChange), m_reach(aReach)
     {
     }
 
@@ -105,6 +113,11 @@ private:
                 return aKind.version == LayoutVersion(m_version) && std::string_view(aKind.count) == aCount;
             });
         const std::uint64_t count = m_out.numbers.back().value;
+        if (m_reach == Reach::End) {
+            m_out.end += count * (m_table.Row(aRepeat + 1).width + m_table.Row(aRepeat + 2).width);
+            m_walked += static_cast<std::size_t>(2 * count);
+            return;
+        }
         for (std::uint64_t turn = 1; turn <= count && IsInside(); ++turn) {
             m_out.segments.push_back({kind, m_out.numbers.size(), m_out.numbers.size() + 1});
             Take(aRepeat + 1, static_cast<std::uint32_t>(turn));
@@ -118,19 +131,22 @@ private:
         HeaderNumber number{static_cast<std::uint16_t>(aRow), aTurn, m_out.end};
         const bool isThere = m_out.end + width <= m_bytes.size();
         number.isNumber = isThere && ToCount(m_bytes.substr(static_cast<std::size_t>(m_out.end), width), number.value);
-        if (m_change.number == m_out.numbers.size()) {
+        if (m_change.number == m_walked) {
             number.value = m_change.value;
             number.isNumber = isThere;
         }
         m_out.isWhole = m_out.isWhole && number.isNumber;
         m_out.end += width;
         m_out.numbers.push_back(number);
+        ++m_walked;
     }
 
     std::string_view m_bytes;
     const FieldTable& m_table;
     NITFCnst::Version m_version;
     Change m_change;
+    Reach m_reach;
+    std::size_t m_walked = 0;  // numbers, those that were only stepped over included
     HeaderNumbers m_out;
 };
 
@@ -149,7 +165,10 @@ public:
         m_start = HEADER_LENGTH_AT + (downgraded ? DOWNGRADING_EVENT_WIDTH : 0);
     }
 
-    HeaderNumbers With(Change aChange) const { return NumberWalk(m_bytes, m_table, m_version, aChange).Walk(m_start); }
+    HeaderNumbers With(Change aChange, Reach aReach = Reach::All) const
+    {
+        return NumberWalk(m_bytes, m_table, m_version, aChange, aReach).Walk(m_start);
+    }
 
     /// Whether the header leads to the mark of every segment that the file holds.
     bool IsSound(const HeaderNumbers& aNumbers)
@@ -207,6 +226,11 @@ private:
 
     void Try(Change aChange)
     {
+        // Thousands are tried, and nearly all end at a wrong place.
+        const HeaderNumbers brief = With(aChange, Reach::End);
+        if (!brief.isWhole || brief.end != brief.HeaderLength()) {
+            return;
+        }
         const HeaderNumbers numbers = With(aChange);
         if (numbers.isWhole && numbers.end == numbers.HeaderLength() && numbers.Sum() == m_source.Size() &&
             HasMarks(numbers)) {

@@ -36,7 +36,11 @@ bool Is20(const NITFFieldSegment::Parts& aParts) noexcept
 NITFFieldSegment::Input& Checked(const NITFFieldSegment::Layout& aLayout, NITFFieldSegment::Input& aInput)
 {
     if (aInput.raw.size() <= Detail::MOST_BYTES_REFUSED || aInput.raw.size() > MOST_HEADER_BYTES) {
-        aInput.Findings().Add(Detail::MakeFinding(Detail::NO_HEADER));
+        Finding finding = Detail::MakeFinding(Detail::NO_HEADER);
+        finding.owner = finding.segment = NITFCnst::XML_ELEMENT_NITF_FILE_HEADER;
+        finding.detail = std::to_string(aInput.raw.size()) + " byte(s) are no header";
+        finding.offset = 0;
+        aInput.Findings().Add(std::move(finding), Detail::NO_HEADER);
         throw ImageSupportDataConstructionException(Detail::NO_HEADER, aLayout.source);
     }
     return aInput;

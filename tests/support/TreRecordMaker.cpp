@@ -290,7 +290,9 @@ std::string TreRecordMaker::OfRange(const FieldRow& aRow, std::string_view aRang
         number = Pick(2) == 0 ? from + static_cast<double>(Pick(3)) : to - static_cast<double>(Pick(3));
     }
     if (aRow.IsBinary()) {
-        return BigEndian(static_cast<std::uint64_t>(static_cast<std::int64_t>(number)), aWidth);
+        constexpr double MOST = 9.2e18;  // of what both kinds of whole numbers can say
+        return BigEndian(static_cast<std::uint64_t>(static_cast<std::int64_t>(std::clamp(number, -MOST, MOST))),
+                         aWidth);
     }
     const bool whole = aRow.form != Form::Real && low.find('.') == std::string_view::npos;
     if (high.find('E') != std::string_view::npos) {
