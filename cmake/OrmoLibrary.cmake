@@ -17,11 +17,10 @@ add_library(ormo_csm_objects OBJECT ${ORMO_CORE_SOURCES})
 ormo_library_settings(ormo_csm_objects)
 target_compile_definitions(ormo_csm_objects PRIVATE ORMO_CSM_BUILDING)
 target_link_libraries(ormo_csm_objects PUBLIC ormo_csmapi)
-# The name under which the core loads the library that reads compressed pixels.
-target_compile_definitions(
-    ormo_csm_objects
-    PRIVATE
-        ORMO_CSM_GDAL_LIBRARY="${CMAKE_SHARED_LIBRARY_PREFIX}ormo_csm_gdal${CMAKE_SHARED_LIBRARY_SUFFIX}.${PROJECT_VERSION_MAJOR}")
+# The name under which the core loads the library that reads compressed pixels, and the program the one for tables.
+set(ORMO_GDAL_LIBRARY
+    "${CMAKE_SHARED_LIBRARY_PREFIX}ormo_csm_gdal${CMAKE_SHARED_LIBRARY_SUFFIX}.${PROJECT_VERSION_MAJOR}")
+target_compile_definitions(ormo_csm_objects PRIVATE ORMO_GDAL_LIBRARY="${ORMO_GDAL_LIBRARY}")
 
 # Documents of radar products are read with expat, which stays inside.
 if(ORMO_XML_PRODUCTS)

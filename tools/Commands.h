@@ -4,6 +4,7 @@
 
 namespace OrmoNitf {
 
+extern const Command CATALOGUE;
 extern const Command CGM;
 extern const Command COMPLETION;
 extern const Command DESCRIBE;
@@ -23,8 +24,8 @@ extern const Command VALIDATE;
 extern const Command XML;
 
 /// In the order in which --help lists them.
-inline constexpr const Command* COMMANDS[] = {&INFO,    &JSON,   &XML,      &VALIDATE, &RULES,     &TABLE,
-                                              &DIFF,    &DUMP,   &PROPERTY, &DESCRIBE, &EXTRACT,   &CGM,
-                                              &PREVIEW, &SCHEMA, &PLUGIN,   &MANUAL,   &COMPLETION};
+inline constexpr const Command* COMMANDS[] = {&INFO,      &JSON,    &XML,    &VALIDATE, &RULES,    &TABLE,
+                                              &CATALOGUE, &DIFF,    &DUMP,   &PROPERTY, &DESCRIBE, &EXTRACT,
+                                              &CGM,       &PREVIEW, &SCHEMA, &PLUGIN,   &MANUAL,   &COMPLETION};
 
 }  // namespace OrmoNitf

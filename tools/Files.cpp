@@ -54,29 +54,6 @@ bool AddDirectory(const std::string& aDirectory, std::vector<std::string>& aFile
     return !error;
 }
 
-/// One path a line; empty lines are left out.
-bool AddList(const std::string& aList, std::vector<std::string>& aFiles)
-{
-    std::ifstream file;
-    if (aList != "-") {
-        file.open(aList);
-        if (!file) {
-            PrintProblem(aList, std::string("ERROR: ") + std::strerror(errno) + '.');
-            return false;
-        }
-    }
-    std::istream& lines = aList == "-" ? std::cin : file;
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.empty() && line.back() == '\r') {
-            line.pop_back();
-        }
-        if (!line.empty()) {
-            aFiles.push_back(line);
-        }
-    }
-    return true;
-}
-
 /// The work on many files: who is next, and whose turn it is to be written.
 class Run
 {
@@ -251,6 +228,28 @@ std::ostream& Results()
 std::ostream& Problems()
 {
     return t_problems == nullptr ? std::cerr : *t_problems;
+}
+
+bool AddList(const std::string& aList, std::vector<std::string>& aFiles, char aEnd)
+{
+    std::ifstream file;
+    if (aList != "-") {
+        file.open(aList);
+        if (!file) {
+            PrintProblem(aList, std::string("ERROR: ") + std::strerror(errno) + '.');
+            return false;
+        }
+    }
+    std::istream& lines = aList == "-" ? std::cin : file;
+    for (std::string line; std::getline(lines, line, aEnd);) {
+        if (aEnd == '\n' && !line.empty() && line.back() == '\r') {
+            line.pop_back();
+        }
+        if (!line.empty()) {
+            aFiles.push_back(line);
+        }
+    }
+    return true;
 }
 
 void AddFileOptions(CLI::App& aApp, FileOptions& aOptions, bool aSalvage)

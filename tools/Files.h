@@ -24,6 +24,10 @@ struct FileOptions
 /// Adds FILE..., -r, --files-from and --jobs; with `aSalvage` also --salvage.
 void AddFileOptions(CLI::App& aApp, FileOptions& aOptions, bool aSalvage);
 
+/// Adds the paths that stand in a file, - for standard input, one a line unless another character ends them; empty ones
+/// are left out. False, with the reason among the problems, when it cannot be read.
+bool AddList(const std::string& aList, std::vector<std::string>& aFiles, char aEnd = '\n');
+
 /// Where the work on a file writes: what it finds, and problems, one a line behind the file's name. Standard output and
 /// standard error but for threads that work for ForEachFile.
 std::ostream& Results();

@@ -28,21 +28,18 @@ void PrintProblem(const std::string& aPath, const std::string& aText)
 
 namespace {
 
-/// One line for each thing that was wrong with a file that was refused.
-void PrintRefusal(const std::string& aPath, const std::string& aText)
+std::vector<Finding> RefusalOf(const std::string& aText)
 {
-    const std::vector<Finding>& findings = ImageSupportDataFactory::GetFindings();
-    for (const Finding& finding : findings) {
-        PrintProblem(aPath, finding.Line());
-    }
+    std::vector<Finding> findings = ImageSupportDataFactory::GetFindings();
     if (findings.empty()) {
-        PrintProblem(aPath, aText);
+        findings.emplace_back().sentence = aText;
     }
+    return findings;
 }
 
 }  // namespace
 
-Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions)
+Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions, std::vector<Finding>& aFindings)
 {
     ImageSupportData* isd = nullptr;
     try {
@@ -52,22 +49,34 @@ Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions)
             ImageSupportDataFactory::Create(aPath.c_str(), &isd, !aOptions.imagesOnly, false);
         }
     } catch (const std::invalid_argument& exception) {
-        PrintRefusal(aPath, exception.what());
+        aFindings = RefusalOf(exception.what());
         return nullptr;
     } catch (const CSMException& exception) {
         const std::string text = exception.GetAdditionalMessage();
-        PrintRefusal(aPath, text.empty() ? exception.GetErrorMessage() : text);
+        aFindings = RefusalOf(text.empty() ? exception.GetErrorMessage() : text);
         return nullptr;
     } catch (const std::bad_alloc&) {
-        PrintProblem(aPath, "ERROR: System out of memory.");
+        aFindings = {Finding{}};
+        aFindings.front().sentence = "ERROR: System out of memory.";
         return nullptr;
     }
     auto* const nitf = dynamic_cast<ImageSupportDataNITF*>(isd);
     if (nitf == nullptr) {
-        PrintProblem(aPath, "ERROR: The file was not opened as a NITF file.");
+        aFindings = {Finding{}};
+        aFindings.front().sentence = "ERROR: The file was not opened as a NITF file.";
         ImageSupportDataFactory::Destroy(&isd);
     }
     return Isd(nitf);
+}
+
+Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions)
+{
+    std::vector<Finding> findings;
+    Isd isd = OpenFile(aPath, aOptions, findings);
+    for (const Finding& finding : findings) {
+        PrintProblem(aPath, finding.Line());
+    }
+    return isd;
 }
 
 std::vector<const TREStore*> StoresOf(const NITFFieldSegment& aSegment)

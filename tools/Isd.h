@@ -28,7 +28,11 @@ struct OpenOptions
     bool salvage = false;     ///< take what can be read of a damaged file
 };
 
-/// Opens a file; null, with the reason among the problems, when it cannot be opened.
+/// Opens a file; null, with what was wrong, when it cannot be opened.
+Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions,
+             std::vector<ORMO::SensorModel::CSM::Finding>& aFindings);
+
+/// The same with the reason among the problems.
 Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions = {});
 
 /// EXIT_FILE_HAS_ERRORS when errors were found on reading, as only salvage lets them pass, else EXIT_DONE.

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include <nlohmann/json.hpp>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -129,6 +130,22 @@ std::string Printable(std::string aText)
     ORMO::SensorModel::CSM::Finding finding;
     finding.sentence = std::move(aText);
     return finding.Line();
+}
+
+std::string PathText(const std::string& aPath)
+{
+    // The control characters above 127 are two bytes in UTF-8, the second of which tells them.
+    const auto isControl = [](unsigned char aByte) { return aByte < 0x20 || aByte == 0x7F; };
+    bool isPlain = std::none_of(aPath.begin(), aPath.end(), isControl);
+    for (std::size_t i = aPath.find('\xC2'); isPlain && i != std::string::npos; i = aPath.find('\xC2', i + 1)) {
+        isPlain = i + 1 == aPath.size() || static_cast<unsigned char>(aPath[i + 1]) >= 0xA0;
+    }
+    try {
+        static_cast<void>(nlohmann::json(aPath).dump());
+    } catch (const nlohmann::json::type_error&) {
+        isPlain = false;
+    }
+    return isPlain ? aPath : Printable(aPath);
 }
 
 bool HasControls(std::string_view aText) noexcept

@@ -39,6 +39,8 @@ int WriteText(std::string_view aText, const std::string& aTarget, const std::str
 
 /// A text from a file or a path without a byte that could steer a terminal: such bytes are spelled out.
 std::string Printable(std::string aText);
+/// A path as text in UTF-8: as it is, or all but ASCII spelled out when it is no UTF-8 or could steer a terminal.
+std::string PathText(const std::string& aPath);
 /// Whether a text has such bytes; `aText` is Latin-1.
 bool HasControls(std::string_view aText) noexcept;
 

@@ -1,6 +1,6 @@
-#include "foundation/CSMUtilString.h"
 #include "segments/NITFHeaderCatalogue.h"
 #include "tools/Commands.h"
+#include "tools/Csv.h"
 #include "tools/Files.h"
 #include "tools/Isd.h"
 #include "tools/JsonWriter.h"
@@ -174,12 +174,12 @@ private:
                                                                    static_cast<std::size_t>(aRow->GetSegmentIndex()));
         const bool asJson = m_options.format == "ndjson";
         JsonWriter json(Results());
-        std::string line = Cell(m_path);
+        std::string line = CsvCell(PathText(m_path));
         if (asJson) {
             json.BeginObject().Key("file").Text(m_path);
         }
         if (aRow != nullptr) {
-            line += ',' + Cell(segment);
+            line += ',' + CsvCell(segment);
             asJson ? static_cast<void>(json.Key("segment").Text(segment)) : void();
         }
         for (const Column& column : m_options.columns) {
@@ -191,7 +191,7 @@ private:
                                (header != nullptr && header->GetFieldAsString(column.field.c_str(), value, length));
             const std::string_view bytes(found ? value : "", found ? length : 0);
             if (!asJson) {
-                line += ',' + Cell(bytes);
+                line += ',' + CsvCell(ValueText(bytes));
                 continue;
             }
             json.Key(column.title);
@@ -203,27 +203,6 @@ private:
             json.EndObject();
         }
         Results() << (asJson ? "" : line) << '\n';
-    }
-
-public:
-    /// A value as CSV (RFC 4180) has it, in UTF-8, without the blanks around it.
-    static std::string Cell(std::string_view aBytes)
-    {
-        const std::string_view trimmed = TrimmedBlanks(aBytes);
-        std::string text;
-        if (HasControls(trimmed)) {
-            text = Printable(std::string(trimmed));
-        } else {
-            Util::CSMUtilString::AppendLatin1AsUtf8(trimmed, text);
-        }
-        if (text.find_first_of(",\"\r\n") == std::string::npos) {
-            return text;
-        }
-        std::string quoted = "\"";
-        for (const char character : text) {
-            quoted += character == '"' ? "\"\"" : std::string(1, character);
-        }
-        return quoted + '"';
     }
 
 private:
@@ -247,7 +226,7 @@ int Table(Options& aOptions)
     if (aOptions.format == "csv") {
         std::string line = aOptions.each.empty() ? "file" : "file,segment";
         for (const Column& column : aOptions.columns) {
-            line += ',' + Rows::Cell(column.title);
+            line += ',' + CsvCell(column.title);
         }
         std::puts(line.c_str());
     }

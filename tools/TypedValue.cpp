@@ -1,7 +1,9 @@
 #include "tools/TypedValue.h"
 
+#include "foundation/CSMUtilString.h"
 #include "segments/NITFHeaderCatalogue.h"
 #include "segments/NITFWords.h"
+#include "tools/Output.h"
 
 namespace OrmoNitf {
 
@@ -60,6 +62,17 @@ std::string_view TrimmedBlanks(std::string_view aText) noexcept
     const auto first = aText.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string_view{}
                                            : aText.substr(first, aText.find_last_not_of(' ') - first + 1);
+}
+
+std::string ValueText(std::string_view aLatin1)
+{
+    const std::string_view trimmed = TrimmedBlanks(aLatin1);
+    if (HasControls(trimmed)) {
+        return Printable(std::string(trimmed));
+    }
+    std::string text;
+    Util::CSMUtilString::AppendLatin1AsUtf8(trimmed, text);
+    return text;
 }
 
 void WriteTyped(const TRE& aOwner, const std::string& aField, std::string_view aValue, JsonWriter& aOut)

@@ -3,6 +3,7 @@
 #include "segments/NITFWords.h"
 #include "tools/Commands.h"
 #include "tools/Files.h"
+#include "tools/FindingWords.h"
 #include "tools/Isd.h"
 #include "tools/Lines.h"
 #include "tools/Output.h"
@@ -65,58 +66,6 @@ std::string Coloured(const std::string& aText, const char* aCode)
     return uses ? "\033[" + std::string(aCode) + 'm' + aText + "\033[0m" : aText;
 }
 
-bool IsError(const Finding& aFinding) noexcept
-{
-    return aFinding.level != Finding::Level::Warning;
-}
-
-const char* LevelWord(const Finding& aFinding) noexcept
-{
-    return aFinding.level == Finding::Level::Warning ? "WARN"
-           : aFinding.level == Finding::Level::Error ? "ERROR"
-                                                     : "FATAL";
-}
-
-/// The sentence without the level that it begins with.
-std::string Sentence(const Finding& aFinding)
-{
-    const auto colon = aFinding.sentence.find(": ");
-    std::string text = aFinding.sentence.compare(0, colon, LevelWord(aFinding)) == 0
-                           ? aFinding.sentence.substr(colon + 2)
-                           : aFinding.sentence;
-    if (!aFinding.field.empty() && (text.empty() || text.back() != '.')) {
-        text += ' ' + aFinding.owner + "::" + aFinding.field;
-    }
-    return text;
-}
-
-void AppendPart(std::string& aText, const char* aJoin, const std::string& aPart)
-{
-    if (!aPart.empty()) {
-        aText += (aText.empty() ? "" : aJoin) + aPart;
-    }
-}
-
-/// What was found and, beside it, what is wanted.
-std::string Facts(const Finding& aFinding)
-{
-    std::string text;
-    if (!aFinding.tre.empty()) {
-        AppendPart(text, "", "TRE " + aFinding.tre + (aFinding.turn > 1 ? ' ' + std::to_string(aFinding.turn) : ""));
-        AppendPart(text, " in ", aFinding.area);
-    }
-    AppendPart(text, ", ", aFinding.field);
-    Finding value;
-    value.value = aFinding.value;
-    AppendPart(text, " ", value.Place());
-    AppendPart(text, ", ", aFinding.allowed.empty() ? "" : "wanted " + aFinding.allowed);
-    if (aFinding.offset != Finding::NO_OFFSET) {
-        AppendPart(text, " ", "(byte " + std::to_string(aFinding.offset) + ')');
-    }
-    AppendPart(text, ": ", aFinding.detail);
-    return text;
-}
-
 void PrintFinding(const Finding& aFinding)
 {
     constexpr std::size_t LEVEL_WIDTH = 7;
@@ -131,12 +80,6 @@ void PrintFinding(const Finding& aFinding)
     if (!facts.empty()) {
         Results() << std::string(4 + LEVEL_WIDTH + RULE_WIDTH, ' ') << Printable(facts) << '\n';
     }
-}
-
-std::string SegmentOf(const Finding& aFinding)
-{
-    return aFinding.index == Finding::NO_INDEX ? aFinding.segment
-                                               : aFinding.segment + ' ' + std::to_string(aFinding.index);
 }
 
 /// The findings by segment, in the order of the file, errors first.

@@ -1,9 +1,8 @@
 #include "raster/detail/GdalRaster.h"
 
-#include <array>
-#include <string_view>
+#include "raster/detail/GdalLibrary.h"
 
-#include <dlfcn.h>
+#include <array>
 
 namespace ORMO::SensorModel::CSM {
 
@@ -15,26 +14,6 @@ namespace Detail {
 
 namespace {
 
-/// The directory that this very code was loaded from, with the separator; empty when the system does not tell it.
-std::string OwnDirectory()
-{
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<const void*>(&PixelDriver), &info) == 0 || info.dli_fname == nullptr) {
-        return {};
-    }
-    const std::string_view path(info.dli_fname);
-    const auto end = path.rfind('/');
-    return end == std::string_view::npos ? std::string() : std::string(path.substr(0, end + 1));
-}
-
-const OrmoPixelDriver* DriverOf(void* aLibrary)
-{
-    // The library stays loaded: rasters that it opened outlive any moment at which it could be unloaded.
-    auto* const function = reinterpret_cast<OrmoPixelDriverFunction>(dlsym(aLibrary, ORMO_PIXEL_DRIVER_FUNCTION));
-    const OrmoPixelDriver* const driver = function == nullptr ? nullptr : function();
-    return driver != nullptr && driver->version == ORMO_PIXEL_DRIVER_VERSION ? driver : nullptr;
-}
-
 struct Loaded
 {
     const OrmoPixelDriver* driver = nullptr;
@@ -43,24 +22,15 @@ struct Loaded
 
 Loaded Load()
 {
+    // The library stays loaded: rasters that it opened outlive any moment at which it could be unloaded.
     Loaded loaded;
-    const std::string own = OwnDirectory();
-    const std::array<std::string, 2> places{own + ORMO_CSM_GDAL_LIBRARY, ORMO_CSM_GDAL_LIBRARY};
-    for (const std::string& place : places) {
-        void* const library = dlopen(place.c_str(), RTLD_NOW | RTLD_LOCAL);
-        if (library == nullptr) {
-            const char* const why = dlerror();
-            loaded.reason = why == nullptr ? place + " cannot be loaded" : why;
-            continue;
-        }
-        loaded.driver = DriverOf(library);
-        if (loaded.driver != nullptr) {
-            loaded.reason.clear();
-            return loaded;
-        }
-        loaded.reason = place + " is of another version";
-        dlclose(library);
-    }
+    const auto isRight = [](OrmoPixelDriverFunction aFunction) {
+        return aFunction()->version == ORMO_PIXEL_DRIVER_VERSION;
+    };
+    const auto function =
+        FindInGdalLibrary<OrmoPixelDriverFunction>(reinterpret_cast<const void*>(&PixelDriver), ORMO_GDAL_LIBRARY,
+                                                   ORMO_PIXEL_DRIVER_FUNCTION, isRight, loaded.reason);
+    loaded.driver = function == nullptr ? nullptr : function();
     return loaded;
 }
 
