@@ -3,6 +3,7 @@
 
 #include "fuzz/Seeds.h"
 #include "fuzz/Targets.h"
+#include "tests/support/SourceDir.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -42,7 +43,7 @@ TEST_P(ReplayTest, SeedsAreTakenWithoutAFault)
 TEST_P(ReplayTest, FilesThatOnceBrokeSomething)
 {
     const std::filesystem::path directory =
-        std::filesystem::path(ORMO_SOURCE_DIR) / "fuzz/regressions" / GetParam().name;
+        std::filesystem::path(ORMO::SensorModel::CSM::Tests::SourceDir()) / "fuzz/regressions" / GetParam().name;
     if (!std::filesystem::exists(directory)) {
         GTEST_SKIP() << "none are known";
     }
