@@ -70,6 +70,7 @@ foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
     cmake_path(GET header PARENT_PATH folder)
     install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/${folder}")
 endforeach()
+install(FILES "${PROJECT_SOURCE_DIR}/ormo/nitf.hpp" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/ormo")
 install(
     FILES "${PROJECT_BINARY_DIR}/include/ormo_csm.h" "${PROJECT_BINARY_DIR}/include/ormo_nitf.h"
           "${PROJECT_BINARY_DIR}/include/ormo_csm_version.h"

@@ -1,10 +1,11 @@
 #include "segments/NITFWords.h"
 
-#include "fields/DateText.h"
 #include "fields/ValueRule.h"
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
+#include "segments/NITFFieldValue.h"
 #include "segments/detail/SegmentLayout.h"
+#include "tre/detail/TreParts.h"
 
 #include <algorithm>
 #include <array>
@@ -48,21 +49,11 @@ std::string NITFWords::Number(std::string_view aText)
 
 bool NITFWords::ToIsoDate(std::string_view aText, char aBetween, std::string& aDate)
 {
-    const std::string_view text = Detail::Trimmed(aText);
-    Detail::DateParts parts{};
-    if (!Detail::ReadDate(text, parts)) {
+    NITFDate date;
+    if (!date.Read(aText)) {
         return false;
     }
-    const char between[] = {'\0', '-', '-', aBetween, ':', ':'};
-    std::string date;
-    for (std::size_t i = 0; i != parts.size() && parts[i] >= 0; ++i) {
-        const std::string digits = std::to_string(parts[i]);
-        date += i == 0 ? std::string() : std::string(1, between[i]);
-        date += std::string((i == 0 ? 4U : 2U) - digits.size(), '0') + digits;
-    }
-    // An hour alone would be no time of any notation.
-    date += parts[3] >= 0 && parts[4] < 0 ? ":--" : "";
-    aDate = date + (parts[3] >= 0 ? "Z" : "");
+    aDate = date.Iso(aBetween);
     return true;
 }
 
@@ -119,15 +110,16 @@ std::string NITFWords::Count(std::uint64_t aCount, std::string_view aWord)
     return std::to_string(aCount) + ' ' + std::string(aWord) + (aCount == 1 ? "" : "s");
 }
 
-std::string NITFWords::Meaning(const NITFFieldSegment& aSegment, std::string_view aField)
+namespace {
+
+std::string MeaningOf(const Detail::FieldRecord& aRecord, std::string_view aField)
 {
-    const std::string shown = Shown(aSegment.FieldText(aField));
-    const Detail::FieldTable& table = aSegment.Inside().layout->table;
-    const std::uint16_t row = table.FindAny(aField);
-    if (row == Detail::NO_ROW) {
-        return shown;
+    const Detail::FieldEntry* const entry = aRecord.Find(aField);
+    if (entry == nullptr) {
+        return "";
     }
-    for (std::string_view rest(table.Row(row).values); !rest.empty();) {
+    const std::string shown = NITFWords::Shown(aRecord.Store().Value(*entry));
+    for (std::string_view rest(aRecord.Store().Row(*entry).values); !rest.empty();) {
         const std::string_view alternative = Detail::NextAlternative(rest);
         const std::string_view value = Detail::WithoutMeaning(alternative);
         if (value == shown && value.size() < alternative.size()) {
@@ -135,6 +127,19 @@ std::string NITFWords::Meaning(const NITFFieldSegment& aSegment, std::string_vie
         }
     }
     return shown;
+}
+
+}  // namespace
+
+std::string NITFWords::Meaning(const NITFFieldSegment& aSegment, std::string_view aField)
+{
+    return MeaningOf(aSegment.Inside().record, aField);
+}
+
+std::string NITFWords::Meaning(const TRE& aTre, std::string_view aField)
+{
+    const Detail::FieldRecord* const record = TRE::Parts::Of(aTre).fields;
+    return record == nullptr ? "" : MeaningOf(*record, aField);
 }
 
 }  // namespace ORMO::SensorModel::CSM

@@ -11,6 +11,7 @@
 namespace ORMO::SensorModel::CSM {
 
 class NITFFieldSegment;
+class TRE;
 
 /// Values of NITF fields as a person reads them; never instantiated.
 class ORMO_CSM_API NITFWords
@@ -37,9 +38,10 @@ public:
     static bool IsFilled(std::string_view aText) noexcept;
     /// "3 images", "1 image"
     static std::string Count(std::uint64_t aCount, std::string_view aWord);
-    /// The value of a field with what the table of the header says that it means: "JPEG 2000 (C8)"; as Shown when it
-    /// says nothing.
+    /// The value of a field with what the table of the header or TRE says that it means: "JPEG 2000 (C8)"; as Shown
+    /// when it says nothing.
     static std::string Meaning(const NITFFieldSegment& aSegment, std::string_view aField);
+    static std::string Meaning(const TRE& aTre, std::string_view aField);
 
     NITFWords() = delete;
 };

@@ -16,7 +16,7 @@ cmake --build "$work/client" >/dev/null
 "$work/client/client" "$sample" | grep -q "^NITF02.10, 1 image" || { echo "FAILED: client through find_package"; exit 1; }
 
 # The first program of the README, as it stands there.
-{ echo '#include <cstdio>'; sed -n '/^```cpp$/,/^```$/p' "$source_dir/README.md" | grep -v '^```'; } >"$work/readme.cpp"
+sed -n '/^```cpp$/,/^```$/p' "$source_dir/README.md" | grep -v '^```' >"$work/readme.cpp"
 sed "s|client.cpp|$work/readme.cpp|" "$source_dir/tests/install/CMakeLists.txt" >"$work/CMakeLists.txt"
 cmake -S "$work" -B "$work/readme" -G Ninja -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
 cmake --build "$work/readme" >/dev/null || { echo "FAILED: the program of the README does not build"; exit 1; }
@@ -79,6 +79,16 @@ compile_alone() {
             { echo "FAILED: $header alone"; return 255; }
     done
 }
+# The layer for programs of C++17 and later, with both compilers.
+for compiler in g++ clang++; do
+    for standard in c++17 c++20; do
+        if command -v "$compiler" >/dev/null; then
+            echo '#include <ormo/nitf.hpp>' | "$compiler" -std=$standard -fsyntax-only -Wall -Wextra -Wpedantic -Wshadow \
+                -Wconversion -Wsign-conversion -Wold-style-cast -Werror -I"$include" -x c++ - ||
+                { echo "FAILED: ormo/nitf.hpp as $standard of $compiler"; exit 1; }
+        fi
+    done
+done
 # Hosts and plug-ins of the CSM API are older: its headers compile alone in every language from C++11 on.
 compile_csmapi() {
     local standard=$1 header

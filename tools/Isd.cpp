@@ -79,16 +79,6 @@ Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions)
     return isd;
 }
 
-std::vector<const TREStore*> StoresOf(const NITFFieldSegment& aSegment)
-{
-    std::vector<const TREStore*> stores{&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()};
-    const auto* const des = dynamic_cast<const NITFDESSubheader*>(&aSegment);
-    if (des != nullptr && des->IsTREOverflow() && !des->IsOverflowPlaced()) {
-        stores.push_back(&des->GetOverflowTREs());
-    }
-    return stores;
-}
-
 const Finding* ErrorOf(const std::vector<Finding>& aFindings, NITFCnst::DataSegmentType aKind, std::size_t aIndex)
 {
     const std::string name = NITFStdDataSegment::GetDataSegmentName(aKind);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "isd/ImageSupportDataNITF.h"
+#include "segments/NITFSegmentTREs.h"
 
 #include <memory>
 #include <string>
@@ -38,9 +39,11 @@ Isd OpenFile(const std::string& aPath, const OpenOptions& aOptions = {});
 /// EXIT_FILE_HAS_ERRORS when errors were found on reading, as only salvage lets them pass, else EXIT_DONE.
 int ExitCodeOf(const ORMO::SensorModel::CSM::ImageSupportDataNITF& aIsd);
 
-/// The TREs of a segment, its own first and then those of overflow DESs; of a DES whose TREs belong to no segment those
-/// that it carries.
-std::vector<const ORMO::SensorModel::CSM::TREStore*> StoresOf(const ORMO::SensorModel::CSM::NITFFieldSegment& aSegment);
+inline std::vector<const ORMO::SensorModel::CSM::TREStore*> StoresOf(
+    const ORMO::SensorModel::CSM::NITFFieldSegment& aSegment)
+{
+    return ORMO::SensorModel::CSM::NITFSegmentTREs::GetStores(aSegment);
+}
 
 /// The first error that names a segment, which is then not what it should be; null when there is none.
 const ORMO::SensorModel::CSM::Finding* ErrorOf(const std::vector<ORMO::SensorModel::CSM::Finding>& aFindings,

@@ -98,7 +98,7 @@ private:
                     continue;
                 }
                 m_out.Key(name);
-                WriteTyped(*aOwner, name, {value, length}, m_out);
+                WriteTyped(NITFFieldValue::Of(*aOwner, name), m_out);
             } else {
                 m_out.BeginArray().Latin1(name).Value({value, length}).EndArray();
             }

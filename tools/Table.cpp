@@ -103,15 +103,7 @@ bool ParseColumn(const std::string& aText, Column& aColumn, std::string& aReason
 /// The first TRE of a tag in a segment.
 const TRE* FindTre(const NITFFieldSegment* aSegment, const std::string& aTag)
 {
-    if (aSegment == nullptr) {
-        return nullptr;
-    }
-    for (const TREStore* const store : StoresOf(*aSegment)) {
-        if (const std::vector<TRE*>* const tres = store->Find(aTag.c_str()); tres != nullptr) {
-            return tres->front();
-        }
-    }
-    return nullptr;
+    return aSegment == nullptr ? nullptr : NITFSegmentTREs::GetFirst(*aSegment, aTag);
 }
 
 /// The rows of one file.
@@ -185,19 +177,15 @@ private:
         for (const Column& column : m_options.columns) {
             const TRE* const tre = column.tre.empty() ? nullptr : TreOf(column, aRow);
             const NITFFieldSegment* const header = column.tre.empty() ? HeaderOf(column, aRow) : nullptr;
-            const char* value = nullptr;
-            std::size_t length = 0;
-            const bool found = (tre != nullptr && tre->GetFieldAsString(column.field.c_str(), value, length)) ||
-                               (header != nullptr && header->GetFieldAsString(column.field.c_str(), value, length));
-            const std::string_view bytes(found ? value : "", found ? length : 0);
-            if (!asJson) {
-                line += ',' + CsvCell(ValueText(bytes));
-                continue;
+            const NITFFieldValue value = tre != nullptr      ? NITFFieldValue::Of(*tre, column.field)
+                                         : header != nullptr ? NITFFieldValue::Of(*header, column.field)
+                                                             : NITFFieldValue{};
+            if (asJson) {
+                json.Key(column.title);
+                WriteTyped(value, json);
+            } else {
+                line += ',' + CsvCell(ValueText(value.text));
             }
-            json.Key(column.title);
-            !found           ? static_cast<void>(json.Null())
-            : tre != nullptr ? WriteTyped(*tre, column.field, bytes, json)
-                             : WriteTyped(*header, column.field, bytes, json);
         }
         if (asJson) {
             json.EndObject();

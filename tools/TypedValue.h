@@ -1,8 +1,7 @@
 #pragma once
 
-#include "segments/NITFFieldSegment.h"
+#include "segments/NITFFieldValue.h"
 #include "tools/JsonWriter.h"
-#include "tre/TRE.h"
 
 #include <string>
 #include <string_view>
@@ -17,9 +16,6 @@ std::string ValueText(std::string_view aLatin1);
 
 /// Writes the value of a field for its meaning: a number where the field is one, dates as ISO 8601 has them, text
 /// without the blanks around it, null for blanks, {"base64": "..."} for other bytes.
-void WriteTyped(const ORMO::SensorModel::CSM::TRE& aOwner, const std::string& aField, std::string_view aValue,
-                JsonWriter& aOut);
-void WriteTyped(const ORMO::SensorModel::CSM::NITFFieldSegment& aOwner, const std::string& aField,
-                std::string_view aValue, JsonWriter& aOut);
+void WriteTyped(const ORMO::SensorModel::CSM::NITFFieldValue& aValue, JsonWriter& aOut);
 
 }  // namespace OrmoNitf
