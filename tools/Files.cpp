@@ -17,6 +17,7 @@
 #include <fstream>
 #include <iostream>
 #include <mutex>
+#include <new>
 #include <sstream>
 #include <streambuf>
 #include <thread>
@@ -118,12 +119,16 @@ private:
         for (std::size_t file = 0; Take(file);) {
             Collector collector(*this, file);
             std::ostream results(&collector);
+            results.exceptions(std::ios::badbit);  // memory that runs out must not pass for the end of the document
             std::ostringstream problems;
             t_results = &results;
             t_problems = &problems;
             int exitCode = EXIT_WRONG_USE;
             try {
                 exitCode = m_work(m_files[file]);
+            } catch (const std::bad_alloc&) {
+                collector.text.clear();  // rather no document than the beginning of one
+                PrintProblem(m_files[file], "ERROR: System out of memory.");
             } catch (const CSMException& error) {
                 PrintProblem(m_files[file], error.GetErrorMessage());
             } catch (const std::exception& error) {

@@ -19,7 +19,7 @@ using enum Detail::Form;
 
 constexpr std::size_t VALUES_PER_POINT = 4;
 constexpr std::uint64_t BYTES_PER_POINT = 32;
-constexpr std::uint64_t MOST_POINTS = 99999;  // NUM_ATT has five digits
+constexpr std::uint64_t MOST_POINTS = DesDESDATACSATTA::MOST_BYTES / BYTES_PER_POINT;
 
 /// As many as the data hold; longer data are of another kind and do not fit.
 bool PointCount(const WalkContext& aContext, std::uint64_t& aOut)

@@ -16,6 +16,9 @@ class DesDESSHFCSATTA;
 class ORMO_CSM_API DesDESDATACSATTA : public DesDESDATA
 {
 public:
+    /// The most bytes that such data have: 99,999 attitudes, which is all that NUM_ATT can say.
+    static constexpr std::size_t MOST_BYTES = std::size_t{99999} * 32;
+
     /// Raises as DesDESDATA::InitDesDESDATA says.
     DesDESDATACSATTA(const char* aType, const char* aData, std::size_t aLength);
     std::unique_ptr<DesDESDATA> Clone() const override { return std::make_unique<DesDESDATACSATTA>(*this); }

@@ -6,6 +6,7 @@
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/des/DesDESDATA.h"
+#include "segments/des/DesDESDATACSATTA.h"
 #include "segments/des/DesDESSHF.h"
 #include "segments/des/SupportedDESDATAs.h"
 #include "segments/des/SupportedDESSHFs.h"
@@ -224,6 +225,12 @@ const DesDESDATA* NITFDESSubheader::GetDESDATAFields(std::string* aErrors) const
         std::string data;
         // Only the data of a known type are read at all.
         const bool known = SupportedDESDATAs::AbleToCreateDESDATA(type.c_str());
+        if (type == SupportedDESDATAs::DES_CSATTA && GetSegmentDataSize() > DesDESDATACSATTA::MOST_BYTES) {
+            fields.fault = "ERROR: The data of the DES are longer than those of its type can be [most = " +
+                           std::to_string(DesDESDATACSATTA::MOST_BYTES) +
+                           ", found = " + std::to_string(GetSegmentDataSize()) + "].";
+            return fields;
+        }
         if (known && !ReadData(data)) {
             fields.fault = "ERROR: The data of the DES are not available: " + DataFault() + ".";
             return fields;

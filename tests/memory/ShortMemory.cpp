@@ -17,6 +17,7 @@ std::atomic<bool> theFailure{false};
 std::atomic<std::size_t> theLive{0};
 std::atomic<std::size_t> theBytes{0};
 std::atomic<std::size_t> thePeak{0};
+std::atomic<std::size_t> theLargest{0};
 
 void* Allocate(std::size_t aSize) noexcept
 {
@@ -28,6 +29,7 @@ void* Allocate(std::size_t aSize) noexcept
         }
         --theLeft;
     }
+    theLargest = std::max(theLargest.load(), aSize);
     void* const memory = std::malloc(aSize == 0 ? 1 : aSize);
     if (memory != nullptr) {
         ++theLive;
@@ -118,11 +120,17 @@ std::size_t LiveBlocks() noexcept
 PeakMemory::PeakMemory() noexcept : m_start(theBytes)
 {
     thePeak = m_start;
+    theLargest = 0;
 }
 
 std::size_t PeakMemory::Bytes() const noexcept
 {
     return thePeak - m_start;
+}
+
+std::size_t PeakMemory::Largest() const noexcept
+{
+    return theLargest;
 }
 
 }  // namespace ORMO::SensorModel::CSM::Tests

@@ -26,6 +26,8 @@ class PeakMemory
 public:
     PeakMemory() noexcept;
     std::size_t Bytes() const noexcept;
+    /// The largest block that was asked for meanwhile.
+    std::size_t Largest() const noexcept;
 
 private:
     std::size_t m_start;
