@@ -103,14 +103,15 @@ void CheckCopy(const ImageSupportData& aIsd)
 
 void RunFile(std::string_view aBytes)
 {
+    // What takes longest is done for some of the inputs; their sizes are as good as chance.
+    const std::size_t turn = aBytes.size() % 4;
     std::string xml;
     {
         const AllocationWatch watch(aBytes.size());
         Isd isd = MadeOrRefused([&](ImageSupportData** aOut) {
             ImageSupportDataFactory::CreateFromMemory(aBytes.data(), aBytes.size(), false, "fuzz", aOut, true, false);
         });
-        const bool isSalvaged = isd == nullptr && aBytes.size() % 4 == 0;  // one of four: it takes much longer
-        if (isSalvaged) {
+        if (isd == nullptr && turn == 0) {
             isd = MadeOrRefused(
                 [&](ImageSupportData** aOut) { ImageSupportDataFactory::Salvage(PathOf(aBytes).c_str(), aOut); });
         }
@@ -122,11 +123,15 @@ void RunFile(std::string_view aBytes)
         Tests::AskEverything(dynamic_cast<ImageSupportDataNITF&>(*isd));
         isd->RigorousValidation(errors, warnings);
         RequireNoControls(isd->GetValidationSummaryReport());
-        CheckCopy(*isd);
+        if (turn == 1) {
+            CheckCopy(*isd);
+        }
         xml = isd->Serialize();
     }
     RequireXml(xml);
-    CheckProgram(PathOf(aBytes));
+    if (turn == 2) {
+        CheckProgram(PathOf(aBytes));
+    }
 }
 
 }  // namespace OrmoFuzz

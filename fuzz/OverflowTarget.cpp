@@ -117,20 +117,19 @@ void RunOverflow(std::string_view aBytes)
         tres += AddDes(builder, recipe);
     }
     const std::string file = builder.Bytes();
-    std::string xml;
-    {
-        const AllocationWatch watch(file.size());
-        const Tests::OpenedIsd isd = Tests::OpenedIsd::OfBytes(file);
-        Tests::AskEverything(*isd);
-        Require(CountTres(*isd) == tres, "no TRE is lost, and none is told twice");
-        unsigned long errors = 0;
-        unsigned long warnings = 0;
-        isd->RigorousValidation(errors, warnings);
-        const Tests::OpenedIsd copy = isd.Clone();
-        Require(ImageSupportDataFactory::AreEqual(*isd, *copy), "a copy is equal");
-        xml = isd->Serialize();
+    const AllocationWatch watch(file.size());
+    const Tests::OpenedIsd isd = Tests::OpenedIsd::OfBytes(file);
+    Require(CountTres(*isd) == tres, "no TRE is lost, and none is told twice");
+    if (aBytes.size() % 8 != 0) {
+        return;  // all that follows takes much longer than what this target is about
     }
-    RequireXml(xml);
+    Tests::AskEverything(*isd);
+    unsigned long errors = 0;
+    unsigned long warnings = 0;
+    isd->RigorousValidation(errors, warnings);
+    const Tests::OpenedIsd copy = isd.Clone();
+    Require(ImageSupportDataFactory::AreEqual(*isd, *copy), "a copy is equal");
+    RequireXml(isd->Serialize());
 }
 
 }  // namespace OrmoFuzz
