@@ -1,5 +1,6 @@
 // What opening a whole file costs: header, subheaders and TREs; no pixels.
 
+#include "bench/Samples.h"
 #include "isd/ImageSupportDataFactory.h"
 #include "isd/ImageSupportDataNITF.h"
 #include "tests/support/NitfBuilder.h"
@@ -31,6 +32,21 @@ void OpenFileWithImages(benchmark::State& aState)
     }
 }
 BENCHMARK(OpenFileWithImages)->Arg(0)->Arg(1)->Arg(99)->Arg(999);
+
+/// Opened only, for files of one kind after another.
+void OpenSample(benchmark::State& aState, std::string (*aMake)(unsigned))
+{
+    const TempFile file(aMake(static_cast<unsigned>(aState.range(0))));
+    for (auto turn : aState) {
+        ImageSupportData* isd = nullptr;
+        ImageSupportDataFactory::Create(file.CStr(), &isd, true, false);
+        benchmark::DoNotOptimize(isd);
+        ImageSupportDataFactory::Destroy(&isd);
+    }
+}
+BENCHMARK_CAPTURE(OpenSample, ImagesOfFiveTres, &Bench::FileOfImages)->Arg(1)->Arg(10)->Arg(100)->Arg(999);
+BENCHMARK_CAPTURE(OpenSample, Texts, &Bench::FileOfTexts)->Arg(500);
+BENCHMARK_CAPTURE(OpenSample, BandsOfBandsb, &Bench::FileOfBands)->Arg(6000);
 
 /// One image with a hundred texts and as many DESs, of which nobody may want to know.
 void OpenFileWithOthers(benchmark::State& aState)

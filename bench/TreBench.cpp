@@ -1,5 +1,6 @@
 // What decoding the TREs of one image costs: cutting the area and looking up every field by its name.
 
+#include "bench/Samples.h"
 #include "tre/TREStore.h"
 #include "tre/detail/TreArea.h"
 
@@ -39,20 +40,6 @@ namespace {
 
 using namespace ORMO::SensorModel::CSM;
 
-std::string Record(const char* aTag, std::size_t aLength, char aFill)
-{
-    std::string length = std::to_string(aLength);
-    length.insert(0, 5 - length.size(), '0');
-    return std::string(aTag) + length + std::string(aLength, aFill);
-}
-
-/// BLOCKA, RPC00B, USE00A, STDIDC and ICHIPB: 168 fields.
-std::string AreaOfOneImage()
-{
-    return Record("BLOCKA", 123, '0') + Record("RPC00B", 1041, '0') + Record("USE00A", 107, '0') +
-           Record("STDIDC", 89, '0') + Record("ICHIPB", 224, '0');
-}
-
 std::size_t Decode(const std::string& aArea, TREStore& aStore)
 {
     Detail::FindingList findings;
@@ -67,7 +54,7 @@ std::size_t Decode(const std::string& aArea, TREStore& aStore)
 
 void DecodeTresOfOneImage(benchmark::State& aState)
 {
-    const std::string area = AreaOfOneImage();
+    const std::string area = Bench::AreaOfFiveTres();
     std::vector<std::string> names;
     {
         TREStore store;
@@ -94,7 +81,7 @@ void DecodeTresOfOneImage(benchmark::State& aState)
             for (std::size_t i = 0; i != tre->GetNumOfFields(); ++i) {
                 const char* value = nullptr;
                 std::size_t length = 0;
-                found += tre->GetFieldAsString(names[place++].c_str(), value, length) ? 1 : 0;
+                found += tre->GetFieldAsString(names[place++].c_str(), value, length) ? 1U : 0U;
             }
         }
         if (found != names.size()) {

@@ -6,7 +6,6 @@ namespace ORMO::SensorModel::CSM::Detail {
 
 namespace {
 
-constexpr std::uint32_t MOST_BYTES = UINT32_MAX;
 // More than that is only written when values come: a fault may stand at the front of large data.
 constexpr std::size_t BYTES_AT_ONCE = std::size_t{1} << 16U;
 
@@ -38,11 +37,6 @@ void FieldStore::Reserve(std::size_t aMoreFields, std::size_t aBytesLeft)
     }
 }
 
-bool FieldStore::HasRoom(std::uint64_t aBytes) const noexcept
-{
-    return m_used < MOST_BYTES && aBytes < MOST_BYTES - m_used;
-}
-
 std::uint32_t FieldStore::Append(std::string_view aValue)
 {
     const std::size_t start = m_used;
@@ -54,14 +48,6 @@ std::uint32_t FieldStore::Append(std::string_view aValue)
     std::copy(aValue.begin(), aValue.end(), m_arena.data() + start);
     m_used = end;
     return static_cast<std::uint32_t>(start);
-}
-
-void FieldStore::Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue)
-{
-    m_entries.push_back({Append(aValue), static_cast<std::uint32_t>(aValue.size()), aRow, aTurns});
-    if (m_table.HasRepeats()) {
-        m_index[aRow] = static_cast<std::uint32_t>(m_entries.size());
-    }
 }
 
 const FieldEntry* FieldStore::Latest(std::uint16_t aRow) const noexcept

@@ -76,13 +76,21 @@ private:
     friend class FieldWalk;
     friend class WalkContext;
 
+    static constexpr std::uint32_t MOST_BYTES = UINT32_MAX;
+
     void Begin(std::size_t aBytes);
     void Reserve(std::size_t aMoreFields, std::size_t aBytesLeft);
     /// Whether a value of that many bytes still gets an offset of 32 bits.
-    bool HasRoom(std::uint64_t aBytes) const noexcept;
+    bool HasRoom(std::uint64_t aBytes) const noexcept { return m_used < MOST_BYTES && aBytes < MOST_BYTES - m_used; }
     /// Where a NUL-terminated copy of the value stands.
     std::uint32_t Append(std::string_view aValue);
-    void Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue);
+    void Add(std::uint16_t aRow, const Turns& aTurns, std::string_view aValue)
+    {
+        m_entries.push_back({Append(aValue), static_cast<std::uint32_t>(aValue.size()), aRow, aTurns});
+        if (m_table.HasRepeats()) {
+            m_index[aRow] = static_cast<std::uint32_t>(m_entries.size());
+        }
+    }
     /// The entry of a row of a table without repeats; there the rows of the entries ascend.
     const FieldEntry* Single(std::uint16_t aRow) const noexcept;
     /// The places of all entries of a row of a table with repeats, in order of their turns.

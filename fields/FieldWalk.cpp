@@ -13,6 +13,9 @@ namespace {
 // Turns that take no bytes are real only in small numbers; more of them would be work without data.
 constexpr std::uint64_t MOST_EMPTY_TURNS = 9;
 
+// From so many turns on it pays to remember what cannot change from one to the next.
+constexpr std::uint64_t MANY_TURNS = 8;
+
 // Sums and products of numbers from a file stop at the largest value in place of wrapping.
 std::uint64_t Sum(std::uint64_t aLeft, std::uint64_t aRight) noexcept
 {
@@ -124,7 +127,7 @@ bool FieldWalk::Run(std::size_t aFirst, std::size_t aLast, std::size_t aDepth)
                 break;
             case RowKind::When: {
                 bool holds = false;
-                if (!Holds(i, holds)) {
+                if (!IsThere(i, holds)) {
                     return false;
                 }
                 if (!holds) {
@@ -221,6 +224,8 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
         const std::uint64_t fields = std::min<std::uint64_t>(Product(count, link.fields), m_cursor.Remaining());
         m_store.Reserve(static_cast<std::size_t>(fields), m_cursor.Remaining());
     }
+    const std::size_t outer = m_loop;
+    BeginTurns(aRow, count);
     std::uint64_t emptyTurns = 0;
     for (std::uint64_t turn = 1; turn <= count; ++turn) {
         const std::size_t left = m_cursor.Remaining();
@@ -244,14 +249,15 @@ bool FieldWalk::RunRepeat(std::size_t aRow, std::size_t aDepth)
             }
         }
     }
-    m_turns[aDepth] = 0;
-    m_store.Forget(aRow, link.end);
+    EndTurns(aRow, aDepth, outer);
     return true;
 }
 
 bool FieldWalk::RunToEnd(std::size_t aRow, std::size_t aDepth)
 {
     const RowLink& link = m_table.Link(aRow);
+    const std::size_t outer = m_loop;
+    BeginTurns(aRow, UINT64_MAX);
     std::uint32_t turn = 0;
     for (std::size_t left = 0; m_cursor.Remaining() != 0 && m_cursor.Remaining() != left;) {
         left = m_cursor.Remaining();
@@ -260,8 +266,7 @@ bool FieldWalk::RunToEnd(std::size_t aRow, std::size_t aDepth)
             return false;
         }
     }
-    m_turns[aDepth] = 0;
-    m_store.Forget(aRow, link.end);
+    EndTurns(aRow, aDepth, outer);
     return true;
 }
 
@@ -270,6 +275,44 @@ bool FieldWalk::HasFunction(std::size_t aGroup) const noexcept
     const auto body = m_table.Rows().subspan(aGroup, m_table.Link(aGroup).end - aGroup).subspan(1);
     return std::any_of(body.begin(), body.end(),
                        [](const FieldRow& aRow) { return aRow.count != nullptr || aRow.condition != nullptr; });
+}
+
+bool FieldWalk::IsThere(std::size_t aRow, bool& aOut)
+{
+    if (m_table.Link(aRow).ref >= m_loop || m_table.Row(aRow).test == Test::Function) {
+        return Holds(aRow, aOut);
+    }
+    if (m_known.empty()) {
+        m_known.resize(m_table.Size());
+    }
+    Known& known = m_known[aRow];
+    if (known == Known::No) {
+        if (!Holds(aRow, aOut)) {
+            return false;
+        }
+        known = aOut ? Known::Holds : Known::Fails;
+    }
+    aOut = known == Known::Holds;
+    return true;
+}
+
+void FieldWalk::BeginTurns(std::size_t aRow, std::uint64_t aCount)
+{
+    if (aCount >= MANY_TURNS) {
+        m_loop = aRow;
+    }
+}
+
+void FieldWalk::EndTurns(std::size_t aRow, std::size_t aDepth, std::size_t aOuter)
+{
+    const std::size_t end = m_table.Link(aRow).end;
+    if (m_loop == aRow && !m_known.empty()) {
+        std::fill(m_known.begin() + static_cast<std::ptrdiff_t>(aRow),
+                  m_known.begin() + static_cast<std::ptrdiff_t>(end), Known::No);
+    }
+    m_loop = aOuter;
+    m_turns[aDepth] = 0;
+    m_store.Forget(aRow, end);
 }
 
 bool FieldWalk::Holds(std::size_t aRow, bool& aOut)

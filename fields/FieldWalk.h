@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ORMO::SensorModel::CSM::Detail {
 
@@ -83,6 +84,13 @@ public:
     [[nodiscard]] static WalkResult Read(std::string_view aBytes, FieldStore& aStore);
 
 private:
+    enum class Known : std::uint8_t
+    {
+        No,
+        Holds,
+        Fails
+    };
+
     FieldWalk(std::string_view aBytes, FieldStore& aStore);
 
     [[nodiscard]] bool Run(std::size_t aFirst, std::size_t aLast, std::size_t aDepth);
@@ -91,7 +99,11 @@ private:
     [[nodiscard]] bool RunToEnd(std::size_t aRow, std::size_t aDepth);
     [[nodiscard]] bool Width(std::size_t aRow, std::uint64_t& aOut);
     [[nodiscard]] bool RepeatCount(std::size_t aRow, std::uint64_t& aOut);
+    /// Whether what hangs on a condition is there, from what this loop has found already when its turns cannot differ.
+    [[nodiscard]] bool IsThere(std::size_t aRow, bool& aOut);
     [[nodiscard]] bool Holds(std::size_t aRow, bool& aOut);
+    void BeginTurns(std::size_t aRow, std::uint64_t aCount);
+    void EndTurns(std::size_t aRow, std::size_t aDepth, std::size_t aOuter);
     [[nodiscard]] bool CountOf(std::uint16_t aRow, std::uint64_t& aOut) const noexcept;
     bool HasFunction(std::size_t aGroup) const noexcept;
     std::uint64_t LeastNow(std::size_t aGroup, std::size_t aOuter);
@@ -104,6 +116,10 @@ private:
     WalkContext m_context;
     Turns m_turns{};
     std::uint64_t m_emptyTurns = 0;  // of all loops
+    // The row of the innermost loop with many turns, 0 outside of them, and by row what its conditions are known to be:
+    // those that look at fields before the loop.
+    std::size_t m_loop = 0;
+    std::vector<Known> m_known;
     WalkResult m_result;
 };
 

@@ -191,10 +191,11 @@ protected:
     void TREsChanged() override;
 
     struct Attributes;
+    struct Location;
 
     // What is derived from the fields, step by step. Each answers whether the fields hold what the version allows; what
     // they do not hold stays as the attributes begin.
-    bool SetCommonCoordinateSys(Attributes& aOut) const;
+    bool SetCommonCoordinateSys(Location& aOut) const;
     bool SetImageBlockStartIndices(Attributes& aOut) const;
     bool SetImageCategory(Attributes& aOut) const;
     bool SetImageCompressionCode(Attributes& aOut) const;

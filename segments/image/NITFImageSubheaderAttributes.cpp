@@ -148,7 +148,8 @@ bool NITFImageSubheader::SetMiscImageAttributes(Attributes& aOut) const
     good = SetImageCategory(aOut) && good;
     good = SetImageMagnification(aOut) && good;
     good = SetIsGeographicCoordSys(aOut) && good;
-    good = SetCommonCoordinateSys(aOut) && good;
+    Location ignored;
+    good = SetCommonCoordinateSys(ignored) && good;
     SetTrePRC00Information(aOut);
     return good;
 }
@@ -276,16 +277,20 @@ bool NITFImageSubheader::SetIsGeographicCoordSys(Attributes& aOut) const
     return aOut.icords == '\0' || std::string_view(is20 ? "UGC" : "UGNSDP").find(aOut.icords) != std::string_view::npos;
 }
 
-bool NITFImageSubheader::SetCommonCoordinateSys(Attributes& aOut) const
+bool NITFImageSubheader::SetCommonCoordinateSys(Location& aOut) const
 {
     constexpr std::size_t HALF = 5;
     const std::string_view text = FieldText("ILOC");
-    aOut.hasLocation = text.size() == 2 * HALF &&
-                       LocationOf(text.substr(0, HALF), Limits::MIN_NITF_IS_FIELD_ILOC_ROW,
-                                  Limits::MAX_NITF_IS_FIELD_ILOC_ROW, aOut.locationRow) &&
-                       LocationOf(text.substr(HALF), Limits::MIN_NITF_IS_FIELD_ILOC_COL,
-                                  Limits::MAX_NITF_IS_FIELD_ILOC_COL, aOut.locationColumn);
-    return aOut.hasLocation;
+    Location location;
+    const bool isThere = text.size() == 2 * HALF &&
+                         LocationOf(text.substr(0, HALF), Limits::MIN_NITF_IS_FIELD_ILOC_ROW,
+                                    Limits::MAX_NITF_IS_FIELD_ILOC_ROW, location.row) &&
+                         LocationOf(text.substr(HALF), Limits::MIN_NITF_IS_FIELD_ILOC_COL,
+                                    Limits::MAX_NITF_IS_FIELD_ILOC_COL, location.column);
+    if (isThere) {
+        aOut = location;
+    }
+    return isThere;
 }
 
 bool NITFImageSubheader::SetTrePRC00Information(Attributes& aOut) const
@@ -450,22 +455,27 @@ bool NITFImageSubheader::GetImageSignificantColumnsAndRows(unsigned long& aColum
 
 bool NITFImageSubheader::GetILOC(long& aRow, long& aColumn) const
 {
-    const Attributes& attributes = TheAttributes();
-    if (attributes.hasLocation) {
-        aRow = attributes.locationRow;
-        aColumn = attributes.locationColumn;
+    Location location;
+    if (!SetCommonCoordinateSys(location)) {
+        return false;
     }
-    return attributes.hasLocation;
+    aRow = location.row;
+    aColumn = location.column;
+    return true;
 }
 
 long NITFImageSubheader::GetLOCRowValue() const
 {
-    return TheAttributes().hasLocation ? TheAttributes().locationRow : 0;
+    Location location;
+    static_cast<void>(SetCommonCoordinateSys(location));
+    return location.row;
 }
 
 long NITFImageSubheader::GetLOCColumnValue() const
 {
-    return TheAttributes().hasLocation ? TheAttributes().locationColumn : 0;
+    Location location;
+    static_cast<void>(SetCommonCoordinateSys(location));
+    return location.column;
 }
 
 long NITFImageSubheader::GetCCSRowValue() const
@@ -486,7 +496,8 @@ long NITFImageSubheader::GetCCSColumnValue() const
 
 bool NITFImageSubheader::GetCCSColumnAndRow(long& aColumn, long& aRow) const
 {
-    if (!TheAttributes().hasLocation) {
+    Location location;
+    if (!SetCommonCoordinateSys(location)) {
         return NITFDataSegment::GetCCSColumnAndRow(aColumn, aRow);
     }
     aColumn = GetCCSColumnValue();
@@ -496,10 +507,9 @@ bool NITFImageSubheader::GetCCSColumnAndRow(long& aColumn, long& aRow) const
 
 bool NITFImageSubheader::GetCommonCoordinateSys(long& aRow, long& aColumn, long& aCCSRow, long& aCCSColumn) const
 {
-    if (!TheAttributes().hasLocation) {
+    if (!GetILOC(aRow, aColumn)) {
         return NITFDataSegment::GetCommonCoordinateSys(aRow, aColumn, aCCSRow, aCCSColumn);
     }
-    GetILOC(aRow, aColumn);
     return GetCCSColumnAndRow(aCCSColumn, aCCSRow);
 }
 

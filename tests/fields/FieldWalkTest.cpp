@@ -231,6 +231,53 @@ TEST(FieldWalkTest, ConditionsDoNotSeeFieldsOfAnEarlierTurn)
               walked.fields);
 }
 
+TEST(FieldWalkTest, ConditionsOfManyTurnsAreDecidedByTheFieldsOfTheirOwnSurroundings)
+{
+    static constexpr FieldRow ROWS[] = {
+        F("ALL", 1),
+        F("N", 2),
+        Repeat("N"),
+        F("FLAG", 1),
+        F("M", 2),
+        Repeat("M"),
+        When("ALL", "Y"),
+        F("A", 1),
+        End(),
+        When("FLAG", "Y"),
+        F("B", 1),
+        End(),
+        F("OWN", 1),
+        When("OWN", "Y"),
+        F("C", 1),
+        End(),
+        End(),
+        End(),
+    };
+    static constexpr auto TABLE = MakeTable(ROWS);
+    static_assert(TABLE.wellFormed);
+    for (const char all : {'Y', 'N'}) {
+        std::string bytes = all + std::string("20");
+        std::string fields = std::string("ALL=") + all + " N=20";
+        for (int outer = 1; outer <= 20; ++outer) {
+            const char flag = outer % 3 == 0 ? 'Y' : 'N';
+            const int count = outer % 2 == 0 ? 10 : 3;
+            const std::string turn = std::to_string(outer);
+            bytes += flag + std::string(count == 10 ? "10" : "03");
+            fields += " FLAG_" + turn + '=' + flag + " M_" + turn + '=' + (count == 10 ? "10" : "03");
+            for (int inner = 1; inner <= count; ++inner) {
+                const std::string both = turn + '_' + std::to_string(inner);
+                const bool own = (outer + inner) % 4 == 0;
+                bytes += std::string(all == 'Y' ? "a" : "") + (flag == 'Y' ? "b" : "") + (own ? "Yc" : "N");
+                fields += (all == 'Y' ? " A_" + both + "=a" : "") + (flag == 'Y' ? " B_" + both + "=b" : "") + " OWN_" +
+                          both + (own ? "=Y C_" + both + "=c" : "=N");
+            }
+        }
+        const Walked walked(TABLE.View(), bytes);
+        EXPECT_TRUE(walked.result.IsGood());
+        EXPECT_EQ(fields, walked.fields);
+    }
+}
+
 TEST(FieldWalkTest, FunctionsDoNotSeeTheTurnsOfALoopThatHasEnded)
 {
     // In its last turn the second loop stands at the same turn number as the last field of the first loop.

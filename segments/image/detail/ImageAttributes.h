@@ -23,9 +23,6 @@ struct ORMO_CSM_LOCAL NITFImageSubheader::Attributes
     double magnification = 0.0;
     char icords = '\0';
     bool isGeographic = false;
-    bool hasLocation = false;
-    long locationRow = 0;
-    long locationColumn = 0;
     /// Whether NBPP, ABPP, PJUST and PVTYPE are what the version allows.
     bool arePixelBitsValid = false;
     Detail::PixelLayout layout;
@@ -33,6 +30,13 @@ struct ORMO_CSM_LOCAL NITFImageSubheader::Attributes
     std::vector<std::uint64_t> blockColumnStarts;
     const TreRPC00* rpc = nullptr;
     char rpcAvailability = NITFCnst::RPC00_NOT_AVAILABLE;
+};
+
+/// ILOC, which is asked for when the file is opened and so not kept with what is worked out later.
+struct ORMO_CSM_LOCAL NITFImageSubheader::Location
+{
+    long row = 0;
+    long column = 0;
 };
 
 /// The parts of an image that are made when somebody asks for them, and what a sensor model gave.
