@@ -15,6 +15,7 @@
 #include "../segments/NITFFieldValue.h"
 #include "../segments/NITFSegmentTREs.h"
 #include "../segments/NITFWords.h"
+#include "../segments/image/NITFImgOutline.h"
 #include "../tre/TREStore.h"
 #include "../tre/TreRPC00.h"
 
@@ -287,6 +288,11 @@ public:
     std::string_view word() const noexcept { return csm::NITFStdDataSegment::GetDataSegmentWord(code()); }
     /// Among the segments of its kind, from 0.
     std::size_t index() const noexcept { return m_index; }
+    /// "image:0", "header".
+    std::string name() const
+    {
+        return std::string(word()) + (m_kind == Kind::Header ? "" : ':' + std::to_string(m_index));
+    }
     /// False for a segment of a salvaged file whose header cannot be read; it has no fields, TREs or data.
     bool is_readable() const noexcept { return header() != nullptr; }
 
@@ -380,6 +386,25 @@ struct Footprint
     double west = 0.0;
     double north = 0.0;
     double east = 0.0;
+
+    /// The areas of a map that it covers, as closed rings that run counterclockwise: one, or several when the 180th
+    /// meridian cuts it. Empty when the corners make no area.
+    std::vector<std::vector<Position>> areas() const
+    {
+        csm::NITFImgExtent::Footprint footprint;
+        for (std::size_t i = 0; i != corners.size(); ++i) {
+            footprint.latitudes[i] = corners[i].latitude;
+            footprint.longitudes[i] = corners[i].longitude;
+        }
+        std::vector<std::vector<Position>> areas;
+        for (const csm::NITFImgOutline::Ring& ring : csm::NITFImgOutline::GetAreas(footprint)) {
+            std::vector<Position>& area = areas.emplace_back();
+            for (const csm::NITFImgOutline::Point& point : ring) {
+                area.push_back({point.latitude, point.longitude});
+            }
+        }
+        return areas;
+    }
 };
 
 /// Rational polynomial coefficients, in the order of RPC00B whichever TRE they come from (csm::TreRPC00).
@@ -610,6 +635,28 @@ public:
             }
         }
         return images;
+    }
+
+    /// A field by owner and name, as the program's `table` names it: "image.IDATIM" of the first image,
+    /// "image:1.IDATIM", "USE00A.SUN_EL" of the first such TRE, those of the header before those of segments.
+    std::optional<Field> find(std::string_view aName) const
+    {
+        const auto point = aName.find('.');
+        const std::string_view owner = aName.substr(0, point);
+        const std::string_view name = point == std::string_view::npos ? "" : aName.substr(point + 1);
+        std::vector<Segment> all = segments();
+        all.insert(all.begin(), header());
+        for (const Segment& segment : all) {
+            if (owner == segment.name() || (segment.index() == 0 && owner == segment.word())) {
+                return segment.field(name);
+            }
+        }
+        for (const Segment& segment : all) {
+            if (const std::optional<Tre> found = segment.tre(owner)) {
+                return found->field(name);
+            }
+        }
+        return std::nullopt;
     }
 
     /// What was found on reading: warnings, and errors of what was salvaged.

@@ -57,6 +57,14 @@ cmake -S "$work/archive" -B "$work/archive/build" -G Ninja >"$work/log" 2>&1 ||
 
 "$work/prefix/bin/ormo-nitf" info "$sample" >/dev/null || { echo "FAILED: the installed program"; exit 1; }
 
+# The Python package finds its libraries from where it lies.
+python=$(find "$work/prefix" -type d -name ormo_nitf -printf '%h')
+if [ -n "$python" ]; then
+    PYTHONPATH=$python /usr/bin/python3 -c 'import sys, ormo_nitf
+assert ormo_nitf.open(sys.argv[1]).images[0].pixels().shape == (1, 128, 128)' "$sample" ||
+        { echo "FAILED: the installed Python package"; exit 1; }
+fi
+
 [ -f "$work/prefix/share/man/man1/ormo-nitf.1" ] || { echo "FAILED: the manual page is not installed"; exit 1; }
 [ -f "$work/prefix/share/bash-completion/completions/ormo-nitf" ] ||
     { echo "FAILED: the completion is not installed"; exit 1; }

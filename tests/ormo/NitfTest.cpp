@@ -3,7 +3,7 @@
 #include "tests/support/NitfBuilder.h"
 #include "tests/support/TempFile.h"
 
-#include <cstring>
+#include <cmath>
 #include <memory>
 #include <string>
 #include <utility>
@@ -148,6 +148,41 @@ TEST(NitfLayerTest, AnImageTellsWhereItLies)
     EXPECT_FALSE(file.images()[0].rpc());
     EXPECT_EQ(file.images()[0].property("nitf.version"), "NITF02.10");
     EXPECT_FALSE(file.images()[0].property("sensor.model.state"));
+}
+
+TEST(NitfLayerTest, AFootprintIsAnAreaOfTheMap)
+{
+    const File file = Opened(Builder());
+    const std::vector<std::vector<Position>> areas = file.images()[0].footprint()->areas();
+    ASSERT_EQ(areas.size(), 1U);
+    ASSERT_EQ(areas[0].size(), 5U);
+    EXPECT_EQ(areas[0].front().latitude, areas[0].back().latitude);
+
+    NitfBuilder builder;
+    builder.AddImage().Location("G", "100000N1790000E100000N1790000W090000N1790000W090000N1790000E");
+    const std::optional<Footprint> across = Opened(builder).images()[0].footprint();
+    ASSERT_TRUE(across);
+    EXPECT_TRUE(across->crosses_180);
+    ASSERT_EQ(across->areas().size(), 2U);
+    for (const std::vector<Position>& area : across->areas()) {
+        for (const Position& position : area) {
+            EXPECT_GE(std::abs(position.longitude), 179.0);
+            EXPECT_LE(std::abs(position.longitude), 180.0);
+        }
+    }
+    EXPECT_TRUE(Footprint{}.areas().empty());
+}
+
+TEST(NitfLayerTest, AFieldIsFoundByItsOwnerAsInTables)
+{
+    const File file = Opened(Builder());
+    EXPECT_EQ(file.find("image.NROWS")->integer(), 2);
+    EXPECT_EQ(file.find("image:0.NROWS")->integer(), 2);
+    EXPECT_EQ(file.find("header.FDT")->text(), "20000602192321");
+    EXPECT_EQ(file.find("OFFSET.LINE")->integer(), 12);
+    for (const char* const name : {"image:1.NROWS", "NOSUCH.FIELD", "OFFSET.NOSUCH", "image", "", ".", "image."}) {
+        EXPECT_FALSE(file.find(name)) << name;
+    }
 }
 
 TEST(NitfLayerTest, PixelsComeByWindowAndStep)
