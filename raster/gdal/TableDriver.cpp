@@ -1,7 +1,7 @@
 #include "raster/detail/TableDriver.h"
 
 #include "foundation/Export.h"
-#include "raster/gdal/Listener.h"
+#include "raster/gdal/detail/Listener.h"
 
 #include <climits>
 #include <exception>

@@ -18,6 +18,27 @@ double Step(double aFrom, double aTo)
     return std::remainder(aTo - aFrom, 360.0);
 }
 
+bool IsLeft(const Point& aFrom, const Point& aTo, const Point& aPoint)
+{
+    return (aTo.longitude - aFrom.longitude) * (aPoint.latitude - aFrom.latitude) >
+           (aPoint.longitude - aFrom.longitude) * (aTo.latitude - aFrom.latitude);
+}
+
+bool AreCrossing(const Point& aA, const Point& aB, const Point& aC, const Point& aD)
+{
+    return IsLeft(aA, aB, aC) != IsLeft(aA, aB, aD) && IsLeft(aC, aD, aA) != IsLeft(aC, aD, aB);
+}
+
+/// Producers list corners in other orders too. Sides that cross are then the diagonals.
+void Uncross(Ring& aCorners)
+{
+    if (AreCrossing(aCorners[0], aCorners[1], aCorners[2], aCorners[3])) {
+        std::swap(aCorners[1], aCorners[2]);
+    } else if (AreCrossing(aCorners[1], aCorners[2], aCorners[3], aCorners[0])) {
+        std::swap(aCorners[2], aCorners[3]);
+    }
+}
+
 /// The corners with longitudes that run on beyond 180 degrees in place of jumping.
 Ring Unwrapped(const NITFImgExtent::Footprint& aFootprint)
 {
@@ -35,6 +56,8 @@ Ring Unwrapped(const NITFImgExtent::Footprint& aFootprint)
         ring.push_back({ring[0].longitude + turn, ring[0].latitude});
         ring.push_back({ring[0].longitude + turn, pole});
         ring.push_back({ring[0].longitude, pole});
+    } else {
+        Uncross(ring);
     }
     return ring;
 }

@@ -20,7 +20,7 @@ public:
 
     /// The areas that a footprint covers, as closed rings that run counterclockwise: one, or several for a footprint
     /// that the 180th meridian cuts, so that none ever spans the world. A footprint around a pole reaches up to it.
-    /// Empty when the corners make no area.
+    /// Corners in an order in which their sides cross are put in order. Empty when the corners make no area.
     static std::vector<Ring> GetAreas(const NITFImgExtent::Footprint& aFootprint);
 
     NITFImgOutline() = delete;
