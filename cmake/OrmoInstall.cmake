@@ -1,4 +1,5 @@
 # What users get: the libraries, the public headers with one umbrella header, the CMake package and the pkg-config file.
+# Components: library, gdal, tools and development.
 include(CMakePackageConfigHelpers)
 
 file(
@@ -49,13 +50,23 @@ else()
     set(ORMO_PC_CSMAPI_CFLAGS "-I\${includedir}/csmapi")
     set(ORMO_PC_CSMAPI_LIBS "-lormo_csmapi")
     file(GLOB ORMO_CSMAPI_HEADERS "${PROJECT_SOURCE_DIR}/csmapi/*.h")
-    install(FILES ${ORMO_CSMAPI_HEADERS} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/csmapi")
+    install(FILES ${ORMO_CSMAPI_HEADERS} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/csmapi"
+            COMPONENT development)
 endif()
+install(
+    TARGETS ${ORMO_INSTALLED_TARGETS}
+    EXPORT OrmoCsmTargets
+    LIBRARY COMPONENT library NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development)
 if(TARGET ormo_csm_gdal)
+    install(
+        TARGETS ormo_csm_gdal
+        EXPORT OrmoCsmTargets
+        LIBRARY COMPONENT gdal NAMELINK_COMPONENT development
+        ARCHIVE COMPONENT development)
     list(APPEND ORMO_INSTALLED_TARGETS ormo_csm_gdal)
 endif()
 set_target_properties(${ORMO_INSTALLED_TARGETS} PROPERTIES INSTALL_RPATH "${ORMO_RUN_PATH}")
-install(TARGETS ${ORMO_INSTALLED_TARGETS} EXPORT OrmoCsmTargets)
 if(BUILD_SHARED_LIBS)
     # CSM hosts load every library of this folder. A link, so that a host that is linked with the library as well has it
     # once; the second place of the run path above is for the name behind the link.
@@ -64,32 +75,37 @@ if(BUILD_SHARED_LIBS)
 cmake_path(GET link PARENT_PATH folder)
 file(MAKE_DIRECTORY \"\${folder}\")
 file(CREATE_LINK ../libormo_csm.so.${PROJECT_VERSION_MAJOR} \"\${link}\" SYMBOLIC)
-message(STATUS \"Installing: \${link}\")")
+message(STATUS \"Installing: \${link}\")"
+        COMPONENT library)
 endif()
 foreach(header IN LISTS ORMO_PUBLIC_HEADERS)
     cmake_path(GET header PARENT_PATH folder)
-    install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/${folder}")
+    install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/${folder}" COMPONENT development)
 endforeach()
-install(FILES "${PROJECT_SOURCE_DIR}/ormo/nitf.hpp" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/ormo")
+install(FILES "${PROJECT_SOURCE_DIR}/ormo/nitf.hpp" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm/ormo"
+        COMPONENT development)
 install(
     FILES "${PROJECT_BINARY_DIR}/include/ormo_csm.h" "${PROJECT_BINARY_DIR}/include/ormo_nitf.h"
           "${PROJECT_BINARY_DIR}/include/ormo_csm_version.h"
-    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/schemas/raster" DESTINATION "${CMAKE_INSTALL_DATADIR}/ormo-csm/schemas")
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ormo-csm"
+    COMPONENT development)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/schemas/raster" DESTINATION "${CMAKE_INSTALL_DATADIR}/ormo-csm/schemas"
+        COMPONENT development)
 if(TARGET ormo-nitf)
-    install(TARGETS ormo-nitf)
+    install(TARGETS ormo-nitf RUNTIME COMPONENT tools)
 endif()
 
 set(ORMO_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/OrmoCsm")
 install(
     EXPORT OrmoCsmTargets
     NAMESPACE Ormo::
-    DESTINATION "${ORMO_PACKAGE_DIR}")
+    DESTINATION "${ORMO_PACKAGE_DIR}"
+    COMPONENT development)
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrmoCsmConfig.cmake.in"
                               "${PROJECT_BINARY_DIR}/OrmoCsmConfig.cmake" INSTALL_DESTINATION "${ORMO_PACKAGE_DIR}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/OrmoCsmConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/OrmoCsmConfig.cmake" "${PROJECT_BINARY_DIR}/OrmoCsmConfigVersion.cmake"
-        DESTINATION "${ORMO_PACKAGE_DIR}")
+        DESTINATION "${ORMO_PACKAGE_DIR}" COMPONENT development)
 set(ORMO_PC_PRIVATE_LIBS "-ldl")
 if(ORMO_XML_PRODUCTS)
     string(APPEND ORMO_PC_PRIVATE_LIBS " -lexpat")
@@ -97,8 +113,10 @@ endif()
 # Both find their prefix from the place where they lie.
 file(RELATIVE_PATH ORMO_PC_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 configure_file("${PROJECT_SOURCE_DIR}/cmake/ormo-csm.pc.in" "${PROJECT_BINARY_DIR}/ormo-csm.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/ormo-csm.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+install(FILES "${PROJECT_BINARY_DIR}/ormo-csm.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 if(TARGET ormo_csm_gdal)
     configure_file("${PROJECT_SOURCE_DIR}/cmake/ormo-csm-gdal.pc.in" "${PROJECT_BINARY_DIR}/ormo-csm-gdal.pc" @ONLY)
-    install(FILES "${PROJECT_BINARY_DIR}/ormo-csm-gdal.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+    install(FILES "${PROJECT_BINARY_DIR}/ormo-csm-gdal.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+            COMPONENT development)
 endif()
+include(OrmoPackages)

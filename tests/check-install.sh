@@ -65,7 +65,7 @@ assert ormo_nitf.open(sys.argv[1]).images[0].pixels().shape == (1, 128, 128)' "$
         { echo "FAILED: the installed Python package"; exit 1; }
 fi
 
-[ -f "$work/prefix/share/man/man1/ormo-nitf.1" ] || { echo "FAILED: the manual page is not installed"; exit 1; }
+[ -f "$work/prefix/share/man/man1/ormo-nitf.1.gz" ] || { echo "FAILED: the manual page is not installed"; exit 1; }
 [ -f "$work/prefix/share/bash-completion/completions/ormo-nitf" ] ||
     { echo "FAILED: the completion is not installed"; exit 1; }
 
