@@ -8,4 +8,8 @@ if(ORMO_GDAL_SOURCES)
     target_compile_definitions(ormo_csm_gdal PRIVATE ORMO_CSM_BUILDING)
     target_link_libraries(ormo_csm_gdal PUBLIC ormo_csm PRIVATE GDAL::GDAL)
     set_target_properties(ormo_csm_gdal PROPERTIES EXPORT_NAME csm_gdal)
+    if(NOT BUILD_SHARED_LIBS)
+        # The core knows it by this function, which nothing else asks the archive for.
+        target_link_options(ormo_csm_gdal INTERFACE "LINKER:-u,ormo_csm_pixel_driver")
+    endif()
 endif()

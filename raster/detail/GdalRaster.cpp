@@ -4,6 +4,9 @@
 
 #include <array>
 
+// There in a program that is linked with the archive of the library that holds GDAL, null in all others.
+extern "C" ORMO_CSM_API [[gnu::weak]] const OrmoPixelDriver* ormo_csm_pixel_driver();
+
 namespace ORMO::SensorModel::CSM {
 
 namespace {
@@ -24,6 +27,10 @@ Loaded Load()
 {
     // The library stays loaded: rasters that it opened outlive any moment at which it could be unloaded.
     Loaded loaded;
+    if (ormo_csm_pixel_driver != nullptr) {
+        loaded.driver = ormo_csm_pixel_driver();
+        return loaded;
+    }
     const auto isRight = [](OrmoPixelDriverFunction aFunction) {
         return aFunction()->version == ORMO_PIXEL_DRIVER_VERSION;
     };
