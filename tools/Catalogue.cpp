@@ -41,6 +41,7 @@ struct Options
     bool nulls = false;
     bool prune = false;
     bool retry = false;
+    bool list = false;
     bool columns = false;
     bool isWorker = false;
 
@@ -103,6 +104,12 @@ private:
                      [this](const Candidate& aFile) { return !IsKnown(aFile); });
         if (left.size() != found.files.size()) {
             m_counts["unchanged"] = found.files.size() - left.size();
+        }
+        if (m_options.list) {
+            for (const Candidate& file : left) {
+                std::cout << file.path << '\0';
+            }
+            return true;
         }
         m_total = Progress(left.size());
         bool isWritten = true;
@@ -232,7 +239,9 @@ int Perform(const Options& aOptions, Sink& aSink, GeoPackage* aCatalogue)
         PrintProblem(aOptions.out.empty() ? "catalogue" : aOptions.out, "ERROR: " + reason + '.');
         return EXIT_WRONG_USE;
     }
-    run.PrintTotal();
+    if (!aOptions.list) {
+        run.PrintTotal();
+    }
     return run.ExitCode();
 }
 
@@ -317,6 +326,8 @@ Action Declare(CLI::App& aApp)
     aApp.add_flag("--previews", options->workers.request.previews, "Keep a small picture of every image");
     aApp.add_flag("--prune", options->prune, "Take files out of the catalogue that are no longer below -r DIR");
     aApp.add_flag("--retry", options->retry, "Read files again over which the program crashed or took too long");
+    aApp.add_flag("--list", options->list,
+                  "Print the paths of the files that are to be read, each ended by a NUL, and read none");
     aApp.add_flag("--columns", options->columns, "The tables and their columns as a Markdown page");
     aApp.add_flag("--worker", options->isWorker)->group("");
     return [options] { return Do(*options); };
