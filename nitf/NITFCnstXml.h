@@ -6,7 +6,7 @@ namespace ORMO::SensorModel::CSM {
 
 /// Names in the two documents that a file can be written as: the image support data and the validation summary.
 ///
-/// Holder of constants only, reached through NITFCnst (`NITFCnst::XML_ELEMENT_FH_FIELD`). XML_ELEMENT_ and XML_ATTR_
+/// Holder of constants only, reached through NITFCnst (as %NITFCnst::XML_ELEMENT_FH_FIELD). XML_ELEMENT_ and XML_ATTR_
 /// texts are bare names, without brackets, blanks or quotation marks.
 class ORMO_CSM_API NITFCnstXml
 {

@@ -9,8 +9,8 @@ namespace ORMO::SensorModel::CSM {
 
 /// The tags of the tagged record extensions that the system knows, and their codes.
 ///
-/// Holder of constants only, reached as NITFCnst::TreCERETag. `<TAG>` is the text of the CETAG or RETAG field,
-/// `TreCode<TAG>` the number by which hosts know the tag. A code never changes.
+/// Holder of constants only, reached as NITFCnst::TreCERETag. `TAG` is the text of the CETAG or RETAG field,
+/// `TreCodeTAG` the number by which hosts know the tag. A code never changes.
 class ORMO_CSM_API NITFCnstTreCERETag
 {
 public:
