@@ -115,6 +115,8 @@ class Run:
             except Misconfigured:
                 raise
             except Exception as error:
+                if future.cancelled():
+                    raise Misconfigured("The scheduler is gone") from None
                 again += self._again(batch, failures + 1, error)
             else:
                 self._take(records)
@@ -162,7 +164,7 @@ def files_to_read(program, arguments):
     """The paths of the files that are new or were changed since the catalogue last saw them."""
     run = subprocess.run([program, "catalogue", "--list", *arguments], stdout=subprocess.PIPE)
     if run.returncode not in (0, 1) and not run.stdout:
-        raise Misconfigured("there is nothing to read")
+        raise Misconfigured("What is to be read cannot be told")
     return run.returncode, run.stdout.split(b"\0")[:-1]
 
 
@@ -186,6 +188,8 @@ def connect(arguments):
         if scheduler is None and arguments.scheduler_file is None:
             cluster = LocalCluster(n_workers=arguments.workers, threads_per_worker=1, dashboard_address=None)
             scheduler = stack.enter_context(cluster)
+            # A nanny gives up on a worker that dies while it starts; another one takes its place.
+            cluster.adapt(minimum=arguments.workers, maximum=arguments.workers)
         yield stack.enter_context(Client(scheduler, scheduler_file=arguments.scheduler_file))
 
 
@@ -239,6 +243,8 @@ def catalogue(arguments, program, reader, paths):
                 if shown:
                     print("\r" + progress(run.counts, len(paths), start), end="\x1b[K", file=sys.stderr, flush=True)
 
+            if not client.nthreads():
+                print("ormo-nitf: the scheduler has no workers yet", file=sys.stderr)
             run = Run(client, reader, take)
             run.work(batches(paths, arguments.batch))
     finally:
