@@ -191,6 +191,15 @@ for name, options in (("file", []), ("typed", ["--typed"])):
     for code, file in ((0, sample), (2, work + "/nothing.ntf"), (1, work + "/broken.ntf")):
         words = ["json", *options, *(["--salvage"] if code == 1 else []), file]
         jsonschema.validate(json.loads(run(*words, code=code)), schema, jsonschema.Draft202012Validator)
+schema = json.load(open(source + "/schemas/json/finding.schema.json"))
+for code, file in ((2, work + "/nothing.ntf"), (2, work + "/broken.ntf"), (1, work + "/wrong.ntf")):
+    if code == 1:  # a date of the 13th month
+        bytes = open(sample, "rb").read()
+        open(file, "wb").write(bytes[:29] + b"13" + bytes[31:])
+    findings = [json.loads(line) for line in run("validate", "--json", file, code=code).splitlines()]
+    assert findings, file
+    for finding in findings:
+        jsonschema.validate(finding, schema, jsonschema.Draft202012Validator)
 PYTHON
 mkdir -p "$work/many/deep"
 for i in 1 2 3 4 5 6 7 8 9; do cp "$sample" "$work/many/deep/$i.ntf"; done

@@ -1,4 +1,5 @@
 #include "foundation/CSMUtilString.h"
+#include "isd/ImageSupportDataFactory.h"
 #include "isd/ValidationRules.h"
 #include "segments/NITFWords.h"
 #include "tools/Commands.h"
@@ -152,6 +153,11 @@ int ValidateFile(const std::string& aFile, const Options& aOptions, Totals& aTot
     ++aTotals.files;
     if (isd == nullptr) {
         ++aTotals.refused;
+        if (aOptions.TheForm() == Form::Json) {
+            for (const Finding& finding : ImageSupportDataFactory::GetFindings()) {
+                PrintJson(aFile, finding);
+            }
+        }
         return EXIT_WRONG_USE;
     }
     unsigned long errors = 0;

@@ -4,6 +4,7 @@
 #include "tre/detail/TreParts.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace ORMO::SensorModel::CSM::Detail {
@@ -168,9 +169,14 @@ void Report::Add(Finding&& aFinding, const Breach& aBreach) const
 
 void CheckHeaderRules(const HeaderView& aHeader, FindingList& aFindings)
 {
+    std::array<bool, static_cast<std::size_t>(Subject::Field) + 1> looks{};
+    for (std::size_t subject = 0; subject != looks.size(); ++subject) {
+        looks[subject] = aHeader.Looks(static_cast<Subject>(subject));
+    }
     for (const auto family : HEADER_RULES) {
         for (const Rule& rule : family()) {
-            if (rule.check != nullptr && rule.AppliesTo(aHeader.Version()) && aHeader.Looks(rule.subject)) {
+            if (rule.check != nullptr && looks[static_cast<std::size_t>(rule.subject)] &&
+                rule.AppliesTo(aHeader.Version())) {
                 rule.check(aHeader, Report(rule, aFindings));
             }
         }
