@@ -512,25 +512,34 @@ public:
     /// The samples of a window of one band, row after row, in the byte order of the machine. Raises Error.
     std::vector<std::byte> pixels(int aBand = 0, Window aWindow = {}) const
     {
-        aWindow.rows = aWindow.rows == 0 ? static_cast<int>(rows()) - aWindow.row : aWindow.rows;
-        aWindow.columns = aWindow.columns == 0 ? static_cast<int>(columns()) - aWindow.column : aWindow.columns;
-        const std::size_t stride = bytes_per_sample() * static_cast<std::size_t>(std::max(aWindow.columns, 0));
-        std::vector<std::byte> pixels(stride * static_cast<std::size_t>(std::max(aWindow.rows, 0)));
+        const auto rest = [](int aFirst, int aCount, std::size_t aAll) {
+            const std::int64_t left = static_cast<std::int64_t>(aAll) - aFirst;
+            const std::int64_t count = aCount == 0 ? left : aCount;
+            if (aFirst < 0 || count < 1 || count > left) {
+                throw Error("ERROR: The window is empty or leaves the image.");
+            }
+            return static_cast<int>(count);
+        };
+        aWindow.rows = rest(aWindow.row, aWindow.rows, rows());
+        aWindow.columns = rest(aWindow.column, aWindow.columns, columns());
+        check_end(aBand, aWindow.row + aWindow.rows - 1, aWindow.column + aWindow.columns - 1);
+        const std::size_t stride = bytes_per_sample() * static_cast<std::size_t>(aWindow.columns);
+        std::vector<std::byte> pixels(stride * static_cast<std::size_t>(aWindow.rows));
         // As many rows at once as the reader takes.
         const int most = static_cast<int>(std::max<std::size_t>(INT_MAX / std::max<std::size_t>(stride, 1), 1));
-        int done = 0;
-        do {
+        for (int done = 0; done < aWindow.rows;) {
             const int count = std::min(most, aWindow.rows - done);
             std::byte* const to = pixels.data() + stride * static_cast<std::size_t>(done);
             check(reader().RetrieveImagePixels(aWindow.row + done, aWindow.column, count, aWindow.columns, aBand,
                                                static_cast<int>(stride) * count, to, nullptr));
             done += count;
-        } while (done < aWindow.rows);
+        }
         return pixels;
     }
     /// Every aStep-th sample of every aStep-th row of one band. Raises Error.
     std::vector<std::byte> overview(int aStep, int aBand = 0) const
     {
+        check_end(aBand, static_cast<int>(rows()) - 1, static_cast<int>(columns()) - 1);
         const auto step = static_cast<std::size_t>(std::max(aStep, 1));
         std::vector<std::byte> pixels((rows() + step - 1) / step * ((columns() + step - 1) / step) *
                                       bytes_per_sample());
@@ -553,6 +562,15 @@ private:
             throw Error("ERROR: The image segment cannot be read.");
         }
         return *image();
+    }
+    /// Refuses pixels that are not in the file before there is memory for them. What is compressed tells it by itself.
+    void check_end(int aBand, int aRow, int aColumn) const
+    {
+        if (text("IC") == "NC") {
+            std::array<std::byte, 16> last{};
+            check(reader().RetrieveImagePixels(aRow, aColumn, 1, 1, aBand, static_cast<int>(last.size()), last.data(),
+                                               nullptr));
+        }
     }
     static void check(csm::NITFImagePixelReader::Status aStatus)
     {

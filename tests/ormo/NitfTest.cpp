@@ -206,6 +206,18 @@ TEST(NitfLayerTest, PixelsComeByWindowAndStep)
     EXPECT_THROW(image.overview(0), Error);
 }
 
+TEST(NitfLayerTest, PixelsThatAreNotInTheFileTakeNoMemory)
+{
+    NitfBuilder builder;
+    builder.AddImage(2, 2).Set("NROWS", 90000U).Set("NCOLS", 90000U).Set("NPPBH", 0U).Set("NPPBV", 0U).Set("NBPR", 1U);
+    const Image image = Opened(builder).images().front();
+    ASSERT_EQ(image.rows(), 90000U);
+    EXPECT_THROW(image.pixels(), Error);
+    EXPECT_THROW(image.overview(2), Error);
+    EXPECT_THROW(image.pixels(0, {INT_MAX, INT_MAX, INT_MAX, INT_MAX}), Error);
+    EXPECT_THROW(image.pixels(0, {INT_MIN, 0, 0, 0}), Error);
+}
+
 TEST(NitfLayerTest, WhatIsHandedOutKeepsTheFileOpen)
 {
     auto file = std::make_unique<File>(Opened(Builder()));
