@@ -285,6 +285,9 @@ mapfile -t files < <(find "$corpus" -type f -size -60M 2>/dev/null | sort)
 python3 "$source_dir/tests/compare-xml-json.py" "$tool" "$sample" "${files[@]}" || fail "XML and JSON disagree"
 mkdir "$work/controls"
 python3 "$source_dir/tests/check-output.py" "$tool" "$sample" "$work/controls" || fail "control bytes of a file reach a terminal"
+mkdir "$work/catalogue"
+python3 "$source_dir/tests/check-catalogue.py" "$tool" "$sample" "$source_dir" "$work/catalogue" "$corpus" ||
+    fail "the catalogue is not as it should be"
 check_documents "$sample"
 if [ -d "$corpus" ]; then
     count=0

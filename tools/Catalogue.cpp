@@ -133,7 +133,7 @@ private:
 
     bool Take(const Candidate& aFile, const Json& aRecord, std::string& aReason)
     {
-        std::string status = aRecord["status"];
+        std::string status = aRecord.at("status");
         const bool isNone = status == Status::NO_NITF;
         if (aFile.isNamed && m_options.format == "ndjson") {
             // Who names files wants a line for each.

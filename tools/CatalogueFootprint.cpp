@@ -56,8 +56,8 @@ std::string WellKnownText(const Json& aGeometry)
     if (aGeometry.is_null()) {
         return {};
     }
-    std::string text = aGeometry["type"] == "Polygon" ? "POLYGON" : "MULTIPOLYGON";
-    AppendNumbers(aGeometry["coordinates"], text);
+    std::string text = aGeometry.at("type") == "Polygon" ? "POLYGON" : "MULTIPOLYGON";
+    AppendNumbers(aGeometry.at("coordinates"), text);
     return text;
 }
 

@@ -118,22 +118,33 @@ public:
     bool Write(const Json& aRecord, std::string& aReason) override
     {
         const std::string path = PathOf(aRecord);
+        // Nothing is written before all of a record is understood.
+        std::deque<Row> rows;
+        for (const Table& table : Tables()) {
+            if (&table == &Tables().front()) {
+                Prepare(table, aRecord, rows);
+                continue;
+            }
+            const auto members = aRecord.find(table.name);
+            for (std::size_t i = 0; members != aRecord.end() && i != members->size(); ++i) {
+                Prepare(table, members->at(i), rows);
+            }
+        }
         if (!Begin(aReason) || !Erase(path, aReason)) {
             return false;
         }
         std::int64_t id = 0;
-        for (const Table& table : Tables()) {
-            if (&table == &Tables().front()) {
-                if (!Insert(table, aRecord, nullptr, &id, aReason)) {
-                    return false;
-                }
-                continue;
+        for (Row& row : rows) {
+            const bool isOfFiles = &row == &rows.front();
+            if (!isOfFiles) {
+                row.values.push_back({0, ORMO_VALUE_INTEGER, id, 0.0, nullptr, 0});
             }
-            const auto rows = aRecord.find(table.name);
-            for (std::size_t i = 0; rows != aRecord.end() && i != rows->size(); ++i) {
-                if (!Insert(table, (*rows)[i], &id, nullptr, aReason)) {
-                    return false;
-                }
+            if (!Did(m_driver.insert(m_file, row.table->name.c_str(), row.values.data(),
+                                     static_cast<std::uint32_t>(row.values.size()),
+                                     row.shape.empty() ? nullptr : row.shape.c_str(), isOfFiles ? &id : nullptr,
+                                     m_room.data(), m_room.size()),
+                     aReason)) {
+                return false;
             }
         }
         m_known[path].id = id;
@@ -149,6 +160,14 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
+
+    struct Row
+    {
+        const Table* table = nullptr;
+        std::vector<OrmoTableValue> values;
+        std::deque<std::string> texts;  ///< that the values point to
+        std::string shape;
+    };
 
     bool Did(int aDone, std::string& aReason)
     {
@@ -317,21 +336,16 @@ private:
         return true;
     }
 
-    bool Insert(const Table& aTable, const Json& aRow, const std::int64_t* aFile, std::int64_t* aKey,
-                std::string& aReason)
+    static void Prepare(const Table& aTable, const Json& aMembers, std::deque<Row>& aRows)
     {
-        m_values.clear();
-        m_kept.clear();
-        std::string shape;
-        std::uint32_t at = 0;
-        if (aFile != nullptr) {
-            m_values.push_back({at++, ORMO_VALUE_INTEGER, *aFile, 0.0, nullptr, 0});
-        }
+        Row& row = aRows.emplace_back();
+        row.table = &aTable;
+        std::uint32_t at = &aTable == &Tables().front() ? 0 : 1;
         for (const Column& column : aTable.columns) {
-            const auto member = aRow.find(column.name);
-            const bool isNull = member == aRow.end() || member->is_null();
+            const auto member = aMembers.find(column.name);
+            const bool isNull = member == aMembers.end() || member->is_null();
             if (column.type == Type::Footprint) {
-                shape = isNull ? "" : member->dump();
+                row.shape = isNull ? "" : member->dump();
                 continue;
             }
             OrmoTableValue value{at++, TypeOf(column.type), 0, 0.0, nullptr, 0};
@@ -344,16 +358,12 @@ private:
                 value.real = member->get<double>();
             } else {
                 const std::string& text =
-                    m_kept.emplace_back(column.type == Type::Bytes ? BytesOf(*member) : member->get<std::string>());
+                    row.texts.emplace_back(column.type == Type::Bytes ? BytesOf(*member) : member->get<std::string>());
                 value.bytes = text.c_str();
                 value.size = text.size();
             }
-            m_values.push_back(value);
+            row.values.push_back(value);
         }
-        return Did(
-            m_driver.insert(m_file, aTable.name.c_str(), m_values.data(), static_cast<std::uint32_t>(m_values.size()),
-                            shape.empty() ? nullptr : shape.c_str(), aKey, m_room.data(), m_room.size()),
-            aReason);
     }
 
     const OrmoTableDriver& m_driver;
@@ -364,8 +374,6 @@ private:
     std::unordered_map<std::string, Known> m_known;
     bool m_isInTransaction = false;
     Clock::time_point m_began;
-    std::vector<OrmoTableValue> m_values;
-    std::deque<std::string> m_kept;
 };
 
 }  // namespace

@@ -43,7 +43,7 @@ std::string IdOf(const std::string& aPath, const Json& aImage)
     }
     std::array<char, 20> digits{};
     std::snprintf(digits.data(), digits.size(), "%016llx", static_cast<unsigned long long>(hash));
-    return name + '-' + digits.data() + "-image" + aImage["image"].dump();
+    return name + '-' + digits.data() + "-image" + aImage.at("image").dump();
 }
 
 /// The first and last second of a date that may be known in part only: 2000-06-02T19:23:21Z, 2000-06-02, 2000.
@@ -91,7 +91,7 @@ public:
         Add("gsd", m_image, "gsd");
         if (Get(m_image, "rows").is_number() && Get(m_image, "columns").is_number()) {
             m_properties["proj:epsg"] = nullptr;
-            m_properties["proj:shape"] = Json::array({m_image["rows"], m_image["columns"]});
+            m_properties["proj:shape"] = Json::array({m_image.at("rows"), m_image.at("columns")});
             m_extensions.push_back("https://stac-extensions.github.io/projection/v1.0.0/schema.json");
         }
         const bool sunIsHigh = AddWithin("view:sun_elevation", "sun_elevation_angle", -90.0, 90.0);
@@ -114,14 +114,15 @@ public:
         const Json& footprint = Get(m_image, "footprint");
         item["geometry"] = footprint;
         if (!footprint.is_null()) {
-            item["bbox"] = Json::array({m_image["west"], m_image["south"], m_image["east"], m_image["north"]});
+            item["bbox"] =
+                Json::array({m_image.at("west"), m_image.at("south"), m_image.at("east"), m_image.at("north")});
         }
         item["properties"] = m_properties;
         item["links"] = Json::array();
         item["assets"]["data"] = {{"href", UrlOf(m_path)},
                                   {"type", "application/vnd.nitf"},
                                   {"roles", Json::array({"data"})},
-                                  {"file:size", m_record["size"]}};
+                                  {"file:size", m_record.at("size")}};
         return item;
     }
 
@@ -161,7 +162,7 @@ private:
         }
         if (date.is_null()) {
             source = "file system";
-            date = m_record["modified"];
+            date = m_record.at("modified");
         }
         const auto [first, last] = RangeOf(date.get<std::string>());
         m_properties["datetime"] = first == last ? Json(first) : Json(nullptr);

@@ -620,7 +620,7 @@ std::string BytesOf(const Json& aValue)
     char* bytes = nullptr;
     std::size_t length = 0;
     if (!aValue.is_object() ||
-        !CSMUtilString::Base64Decode(aValue["base64"].get_ref<const std::string&>().c_str(), &bytes, length)) {
+        !CSMUtilString::Base64Decode(aValue.at("base64").get_ref<const std::string&>().c_str(), &bytes, length)) {
         return {};
     }
     const std::unique_ptr<char[]> owner(bytes);
@@ -631,7 +631,7 @@ std::string BytesOf(const Json& aValue)
 std::string PathOf(const Json& aRecord)
 {
     const auto bytes = aRecord.find("path_bytes");
-    return bytes != aRecord.end() && !bytes->is_null() ? BytesOf(*bytes) : aRecord["path"].get<std::string>();
+    return bytes != aRecord.end() && !bytes->is_null() ? BytesOf(*bytes) : aRecord.at("path").get<std::string>();
 }
 
 }  // namespace OrmoNitf::Catalogue

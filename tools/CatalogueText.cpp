@@ -51,7 +51,7 @@ public:
         if (m_isOfFiles) {
             return WriteRow(aRecord, {}, aReason);
         }
-        const std::string path = CsvCell(aRecord["path"].get_ref<const std::string&>()) + ',';
+        const std::string path = CsvCell(aRecord.at("path").get_ref<const std::string&>()) + ',';
         const auto rows = aRecord.find(m_table.name);
         for (std::size_t i = 0; rows != aRecord.end() && i != rows->size(); ++i) {
             if (!WriteRow((*rows)[i], path, aReason)) {
@@ -85,7 +85,7 @@ private:
                 continue;
             }
             aLine += column.type == Type::Footprint ? CsvCell(WellKnownText(*value))
-                     : column.type == Type::Bytes   ? (*value)["base64"].get<std::string>()
+                     : column.type == Type::Bytes   ? value->at("base64").get<std::string>()
                      : value->is_string()           ? CsvCell(value->get_ref<const std::string&>())
                                                     : value->dump();
         }

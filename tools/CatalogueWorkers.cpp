@@ -235,6 +235,13 @@ private:
         }
     }
 
+    /// A machine that is busy may need long to start a process, which is no fault of a file.
+    Clock::time_point DeadlineOf(const Worker& aWorker) const
+    {
+        constexpr std::chrono::seconds TO_BEGIN{120};
+        return aWorker.Since() + (aWorker.HasGreeted() ? m_options.timeLimit : TO_BEGIN);
+    }
+
     bool Wait(std::string& aReason)
     {
         std::vector<pollfd> polled;
@@ -244,8 +251,7 @@ private:
             polled.push_back({worker == nullptr ? -1 : worker->Out(), POLLIN, 0});
             polled.push_back({worker != nullptr && worker->WantsToWrite() ? worker->In() : -1, POLLOUT, 0});
             if (worker != nullptr && !worker->Given().empty()) {
-                const auto left =
-                    std::chrono::ceil<std::chrono::milliseconds>(worker->Since() + m_options.timeLimit - now);
+                const auto left = std::chrono::ceil<std::chrono::milliseconds>(DeadlineOf(*worker) - now);
                 wait = std::clamp(left, std::chrono::milliseconds(0), wait);
             }
         }
@@ -266,7 +272,11 @@ private:
                 }
                 TakeDeath(*worker);
                 worker.reset();
-            } else if (!worker->Given().empty() && Clock::now() - worker->Since() >= m_options.timeLimit) {
+            } else if (!worker->Given().empty() && Clock::now() >= DeadlineOf(*worker)) {
+                if (!worker->HasGreeted()) {
+                    aReason = "A worker does not begin";
+                    return false;
+                }
                 TakeTimeOut(*worker);
                 worker.reset();
             }
