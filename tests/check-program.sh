@@ -288,6 +288,13 @@ python3 "$source_dir/tests/check-output.py" "$tool" "$sample" "$work/controls" |
 mkdir "$work/catalogue"
 python3 "$source_dir/tests/check-catalogue.py" "$tool" "$sample" "$source_dir" "$work/catalogue" "$corpus" ||
     fail "the catalogue is not as it should be"
+mkdir "$work/report"
+charts=()
+for name in 0000M033.GN3 U_1123A.NTF U_1130F.NTF i_3113g.ntf ns3101b.nsf; do
+    [ -f "$corpus/$name" ] && charts+=("$corpus/$name")
+done
+python3 "$source_dir/tests/check-report.py" "$tool" "$sample" "$work/report" "${charts[@]}" ||
+    fail "the page of report is not as it should be"
 check_documents "$sample"
 if [ -d "$corpus" ]; then
     count=0

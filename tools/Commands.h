@@ -17,6 +17,7 @@ extern const Command MANUAL;
 extern const Command PLUGIN;
 extern const Command PREVIEW;
 extern const Command PROPERTY;
+extern const Command REPORT;
 extern const Command RULES;
 extern const Command SCHEMA;
 extern const Command TABLE;
@@ -24,8 +25,8 @@ extern const Command VALIDATE;
 extern const Command XML;
 
 /// In the order in which --help lists them.
-inline constexpr const Command* COMMANDS[] = {&INFO,      &JSON,    &XML,    &VALIDATE, &RULES,    &TABLE,
-                                              &CATALOGUE, &DIFF,    &DUMP,   &PROPERTY, &DESCRIBE, &EXTRACT,
-                                              &CGM,       &PREVIEW, &SCHEMA, &PLUGIN,   &MANUAL,   &COMPLETION};
+inline constexpr const Command* COMMANDS[] = {&INFO,   &JSON,   &XML,      &VALIDATE, &RULES,     &TABLE, &CATALOGUE,
+                                              &DIFF,   &DUMP,   &PROPERTY, &DESCRIBE, &EXTRACT,   &CGM,   &PREVIEW,
+                                              &REPORT, &SCHEMA, &PLUGIN,   &MANUAL,   &COMPLETION};
 
 }  // namespace OrmoNitf

@@ -1,0 +1,395 @@
+// The command that tells a file to a person as one page.
+
+#include "foundation/CSMUtilString.h"
+#include "segments/NITFHeaderCatalogue.h"
+#include "segments/NITFWords.h"
+#include "tools/CatalogueFootprint.h"
+#include "tools/Commands.h"
+#include "tools/Drawing.h"
+#include "tools/FindingWords.h"
+#include "tools/Html.h"
+#include "tools/Isd.h"
+#include "tools/Output.h"
+#include "tools/Picture.h"
+#include "tools/ReportMap.h"
+#include "tools/SegmentName.h"
+#include "tools/TypedValue.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+namespace OrmoNitf {
+
+using namespace ORMO::SensorModel::CSM;
+
+namespace {
+
+/// A name, and a value that a person can take in at once.
+std::string Cell(const char* aClass, const std::string& aText)
+{
+    return std::string("<td class=\"") + aClass + "\">" + Html(aText) + "</td>";
+}
+
+std::string ShownValue(std::string_view aBytes)
+{
+    constexpr std::size_t MOST_BYTES = 240;
+    const std::string shown = ValueText(aBytes.substr(0, MOST_BYTES));
+    return aBytes.size() <= MOST_BYTES ? shown : shown + " ... (" + NITFWords::Size(aBytes.size()) + " in all)";
+}
+
+std::string ClosedPart(const std::string& aSummary, const std::string& aContent)
+{
+    return "<details class=\"part\"><summary>" + aSummary + "</summary>\n<div>\n" + aContent + "</div></details>\n";
+}
+
+class Page
+{
+public:
+    Page(const std::string& aPath, ImageSupportDataNITF& aIsd, std::vector<Finding> aRefusal)
+        : m_path(aPath), m_isd(aIsd), m_refusal(std::move(aRefusal)), m_readFindings(aIsd.GetFindings())
+    {
+    }
+
+    std::string Html() const
+    {
+        const std::string name = PathText(m_path.substr(m_path.rfind('/') + 1));
+        std::string body = Marking() + "<h1>" + OrmoNitf::Html(name) + "</h1>\n<p class=\"soft\">" +
+                           OrmoNitf::Html(PathText(m_path)) + "</p>\n";
+        std::string navigation;
+        std::string sections;
+        for (const auto& [id, title, content] : {std::tuple{"file", "File", File()},
+                                                 {"findings", "Findings", Findings()},
+                                                 {"map", "Map", TheMap()},
+                                                 {"images", "Images", Images()},
+                                                 {"drawing", "Graphics", Graphics()},
+                                                 {"fields", "Fields and TREs", Fields()}}) {
+            if (!content.empty()) {
+                navigation += std::string("<a href=\"#") + id + "\">" + title + "</a>\n";
+                sections +=
+                    std::string("<section id=\"") + id + "\">\n<h2>" + title + "</h2>\n" + content + "</section>\n";
+            }
+        }
+        return HtmlPage(name, body + "<nav>\n" + navigation + "</nav>\n" + sections +
+                                  "<p class=\"soft\">Made by ormo-nitf " ORMO_VERSION "</p>\n" + Marking());
+    }
+
+private:
+    using Info = NITFStdDataSegmentInfo;
+
+    const NITFFieldSegment* SegmentOf(const Info& aInfo) const
+    {
+        return m_isd.GetSegment(aInfo.GetDataSegmentType(), static_cast<std::size_t>(aInfo.GetSegmentIndex()));
+    }
+
+    /// The highest marking of all, with its words where the file header has the same.
+    std::string Marking() const
+    {
+        const std::string highest = ValueText(m_isd.GetHighestSecurityClassificationMarking());
+        const NITFFileHeader& header = *m_isd.GetNITFFileHeader();
+        const std::string own = ValueText(header.FieldText("FSCLAS"));
+        const std::string text = highest.empty()  ? "No classification"
+                                 : own == highest ? NITFWords::Meaning(header, "FSCLAS")
+                                                  : highest;
+        const bool isKnown = highest.size() == 1 && std::string_view("UCST").find(highest) != std::string_view::npos;
+        return "<p class=\"marking" + (isKnown ? ' ' + highest : "") + "\">" + OrmoNitf::Html(text) + "</p>\n";
+    }
+
+    std::string File() const
+    {
+        std::string text;
+        std::istringstream lines(m_isd.GetFileSummary());
+        for (std::string line; std::getline(lines, line);) {
+            text += "<p>" + OrmoNitf::Html(Printable(line)) + "</p>\n";
+        }
+        return text;
+    }
+
+    /// Errors for which the file was refused, then what the validation says of what could be read.
+    std::string Findings() const
+    {
+        std::string text;
+        if (!m_refusal.empty()) {
+            text +=
+                "<p class=\"ERROR\">The file is damaged; this is what can be read of it.</p>\n" + TableOf(m_refusal);
+        }
+        unsigned long errors = 0;
+        unsigned long warnings = 0;
+        m_isd.Validate({}, errors, warnings);
+        text += "<p>" + NITFWords::Count(errors, "error") + ", " + NITFWords::Count(warnings, "warning") + "</p>\n";
+        return text + TableOf(m_isd.GetValidationFindings());
+    }
+
+    static std::string TableOf(const std::vector<Finding>& aFindings)
+    {
+        if (aFindings.empty()) {
+            return {};
+        }
+        std::string text = "<table>\n<tr><th>level</th><th>rule</th><th>where</th><th>what</th></tr>\n";
+        for (const Finding& finding : aFindings) {
+            const std::string facts = Printable(Facts(finding));
+            text += std::string("<tr><td class=\"name ") + LevelWord(finding) + "\">" + LevelWord(finding) + "</td>" +
+                    Cell("name", finding.rule) + Cell("name", Printable(OrmoNitf::SegmentOf(finding))) + "<td>" +
+                    OrmoNitf::Html(Printable(Sentence(finding))) +
+                    (facts.empty() ? "" : "<br/><span class=\"soft\">" + OrmoNitf::Html(facts) + "</span>") +
+                    "</td></tr>\n";
+        }
+        return text + "</table>\n";
+    }
+
+    template<typename Work>
+    void ForEachImage(const Work& aWork) const
+    {
+        for (const Info* const info : m_isd.GetSegmentInfos().InFileOrder()) {
+            const auto* const image = dynamic_cast<const NITFImageSubheader*>(SegmentOf(*info));
+            if (image != nullptr) {
+                aWork(*image, static_cast<std::size_t>(info->GetSegmentIndex()));
+            }
+        }
+    }
+
+    std::string TheMap() const
+    {
+        std::vector<MapShape> shapes;
+        ForEachImage([&shapes](const NITFImageSubheader& aImage, std::size_t aIndex) {
+            NITFImgExtent::Footprint footprint;
+            nlohmann::ordered_json geometry;
+            if (aImage.GetFootprint(footprint) && !(geometry = Catalogue::GeometryOf(footprint)).is_null()) {
+                shapes.push_back({"image " + std::to_string(aIndex), std::move(geometry)});
+            }
+        });
+        return shapes.empty() ? ""
+                              : "<figure>\n" + MapOf(shapes) + "<figcaption>Footprints, WGS 84</figcaption></figure>\n";
+    }
+
+    std::string Images() const
+    {
+        constexpr std::size_t MOST_PICTURES = 12;
+        std::string text;
+        std::size_t count = 0;
+        ForEachImage([&](const NITFImageSubheader& aImage, std::size_t aIndex) {
+            text += "<h3>image " + std::to_string(aIndex) + "</h3>\n<p>" +
+                    OrmoNitf::Html(Printable(m_isd.GetImageSummary(aIndex))) + "</p>\n" + Position(aImage);
+            if (++count <= MOST_PICTURES) {
+                text += PictureOf(aImage, aIndex);
+            } else if (count == MOST_PICTURES + 1) {
+                text += "<p class=\"soft\">Of further images there are no pictures here.</p>\n";
+            }
+        });
+        return text;
+    }
+
+    static std::string Position(const NITFImageSubheader& aImage)
+    {
+        NITFImgExtent::Footprint footprint;
+        if (!aImage.GetFootprint(footprint)) {
+            return {};
+        }
+        std::string corners;
+        for (std::size_t i = 0; i != footprint.latitudes.size(); ++i) {
+            corners += (i == 0 ? "" : ", ") + NITFWords::Position(footprint.latitudes[i], footprint.longitudes[i]);
+        }
+        return "<p>Footprint (" + OrmoNitf::Html(footprint.source) + "): " + corners + "</p>\n";
+    }
+
+    static std::string PictureOf(const NITFImageSubheader& aImage, std::size_t aIndex)
+    {
+        constexpr std::size_t WIDTH = 640;
+        Picture picture;
+        std::string reason;
+        std::string png;
+        if (!Draw(aImage, WIDTH, picture, reason) || !EncodePng(picture, png)) {
+            return "<p class=\"soft\">No picture: " + OrmoNitf::Html(Printable(reason)) + "</p>\n";
+        }
+        std::string data;
+        Util::CSMUtilString::AppendBase64(png, data);
+        return "<img alt=\"image " + std::to_string(aIndex) + "\" width=\"" + std::to_string(picture.columns) +
+               "\" height=\"" + std::to_string(picture.rows) + "\" src=\"data:image/png;base64," + data + "\"/>\n";
+    }
+
+    std::string Graphics() const
+    {
+        if (m_isd.GetDrawnSegments().empty()) {
+            return {};
+        }
+        std::string svg = Drawing(m_isd, nullptr);
+        svg.erase(0, svg.find("<svg"));
+        return "<figure>\n" + svg +
+               "<figcaption>Over the outlines of the images, in common coordinates</figcaption></figure>\n";
+    }
+
+    std::string Fields() const
+    {
+        std::string text =
+            "<p><input id=\"search\" type=\"search\" placeholder=\"Search fields, values and meanings\" "
+            "aria-label=\"Search\" hidden=\"hidden\"/></p>\n";
+        text += Part("file header", *m_isd.GetNITFFileHeader());
+        for (const Info* const info : m_isd.GetSegmentInfos().InFileOrder()) {
+            const auto index = static_cast<std::size_t>(info->GetSegmentIndex());
+            const std::string name = ShownSegment(info->GetDataSegmentType(), index);
+            const std::string size = ", header " + NITFWords::Size(info->GetSegmentHeaderSize()) + " at byte " +
+                                     std::to_string(info->GetSegmentHeaderStart()) + ", data " +
+                                     NITFWords::Size(info->GetSegmentDataSize());
+            if (const NITFFieldSegment* const segment = SegmentOf(*info); segment != nullptr) {
+                text += Part(name + size, *segment);
+                continue;
+            }
+            const Finding* const error = ErrorOf(m_readFindings, info->GetDataSegmentType(), index);
+            text += ClosedPart(
+                OrmoNitf::Html(name + size + ": not readable"),
+                "<p class=\"ERROR\">" + OrmoNitf::Html(error == nullptr ? "" : Printable(Sentence(*error))) + "</p>\n");
+        }
+        return text;
+    }
+
+    /// A header with its fields, and its TREs inside.
+    std::string Part(const std::string& aTitle, const NITFFieldSegment& aSegment) const
+    {
+        std::string content = "<table>\n<tr><th>field</th><th>value</th><th>meaning</th></tr>\n";
+        std::string name;
+        for (std::size_t i = 0; i != aSegment.GetNumOfFields(); ++i) {
+            const char* value = nullptr;
+            std::size_t length = 0;
+            if (!aSegment.GetFieldAt(i, name, value, length)) {
+                continue;
+            }
+            const std::string_view bytes(value, length);
+            const bool isArea = aSegment.GetFieldValueDataType(name.c_str()) == Util::CSMCnst::DATA_TYPE_EXTENSION_DATA;
+            std::string meaning = MeaningOf(aSegment, name);
+            // A value that its table puts into words.
+            const std::string words = isArea ? std::string() : NITFWords::Meaning(aSegment, name);
+            if (!words.empty() && words != NITFWords::Shown(bytes)) {
+                meaning = words + ". " + meaning;
+            }
+            content += RowOf(name, isArea ? "TREs of " + NITFWords::Size(length) : ShownValue(bytes), meaning);
+        }
+        content += "</table>\n";
+        for (const TREStore* const store : StoresOf(aSegment)) {
+            for (const TRE* const tre : store->InOrder()) {
+                content += Extension(*tre);
+            }
+        }
+        return ClosedPart(OrmoNitf::Html(aTitle), content);
+    }
+
+    static std::string RowOf(const std::string& aName, const std::string& aValue, const std::string& aMeaning)
+    {
+        return "<tr class=\"field\">" + Cell("name", ValueText(aName)) + Cell("value", aValue) +
+               Cell("soft", aMeaning) + "</tr>\n";
+    }
+
+    /// The first line that `describe` says of a field, behind the field and its header.
+    std::string MeaningOf(const NITFFieldSegment& aSegment, const std::string& aField) const
+    {
+        const NITFCnst::Version version = m_isd.GetNITFFileVersionCode() == NITFCnst::NITF_VERSION_NUMBER_20
+                                              ? NITFCnst::NITF_VERSION_NUMBER_20
+                                              : NITFCnst::NITF_VERSION_NUMBER_21;
+        const std::string key = std::to_string(aSegment.GetDataSegmentType()) +
+                                aField.substr(0, aField.find_last_not_of("0123456789_") + 1);
+        const auto known = m_meanings.find(key);
+        if (known != m_meanings.end()) {
+            return known->second;
+        }
+        std::string text;
+        if (NITFHeaderCatalogue::DescribeField(aSegment.GetDataSegmentType(), version, aField.c_str(), text)) {
+            const auto begin = text.find("): ");
+            text = text.substr(0, text.find('\n'));
+            text.erase(0, begin == std::string::npos ? 0 : begin + 3);
+            text.resize(std::min(text.size(), text.find(" [")));
+        }
+        return m_meanings[key] = text;
+    }
+
+    static std::string Extension(const TRE& aTre)
+    {
+        const std::string tag = ValueText(aTre.GetTag());
+        const std::string area = ValueText(aTre.GetExtensionArea());
+        const std::string title = "TRE " + tag + ": " + (aTre.IsGenericTRE() ? "not decoded" : aTre.GetTREName()) +
+                                  ", " + NITFWords::Size(aTre.GetLengthOfDataField()) +
+                                  (area.empty() ? "" : ", " + area);
+        const TRE::FieldInfos* const infos = aTre.GetAllTreFieldInfos();
+        std::string content = "<table>\n<tr><th>field</th><th>value</th><th>meaning</th></tr>\n";
+        std::string name;
+        for (std::size_t i = 0; i != aTre.GetNumOfFields(); ++i) {
+            const char* value = nullptr;
+            std::size_t length = 0;
+            if (!aTre.GetFieldAt(i, name, value, length)) {
+                continue;
+            }
+            std::string meaning;
+            const auto info = infos == nullptr ? TRE::FieldInfos::const_iterator() : infos->find(name);
+            if (infos != nullptr && info != infos->end()) {
+                meaning = MeaningOf(info->second);
+            }
+            content += RowOf(name, ShownValue({value, length}), meaning);
+        }
+        return ClosedPart(OrmoNitf::Html(title), content + "</table>\n");
+    }
+
+    static std::string MeaningOf(const TreDetailedInfo& aInfo)
+    {
+        std::string text = aInfo.longName + (aInfo.unit.empty() ? "" : ", " + aInfo.unit);
+        const auto explanation = aInfo.description.find("]. ");
+        return explanation == std::string::npos ? text : text + ". " + aInfo.description.substr(explanation + 3);
+    }
+
+    const std::string& m_path;
+    ImageSupportDataNITF& m_isd;
+    std::vector<Finding> m_refusal;
+    std::vector<Finding> m_readFindings;
+    mutable std::map<std::string, std::string> m_meanings;
+};
+
+struct Options
+{
+    std::string file;
+    std::string out;
+};
+
+int Report(const Options& aOptions)
+{
+    std::vector<Finding> refusal;
+    Isd isd = OpenFile(aOptions.file, {}, refusal);
+    if (isd == nullptr) {
+        std::vector<Finding> ignored;
+        isd = OpenFile(aOptions.file, {.salvage = true}, ignored);
+    }
+    for (const Finding& finding : refusal) {
+        PrintProblem(aOptions.file, finding.Line());
+    }
+    if (isd == nullptr) {
+        return EXIT_WRONG_USE;
+    }
+    const bool isWhole = refusal.empty();
+    const int written = WriteText(Page(aOptions.file, *isd, std::move(refusal)).Html(), aOptions.out, aOptions.file);
+    return std::max(written, static_cast<int>(isWhole ? EXIT_DONE : EXIT_FILE_HAS_ERRORS));
+}
+
+Action DeclareReport(CLI::App& aApp)
+{
+    auto options = std::make_shared<Options>();
+    aApp.add_option("FILE", options->file, "NITF or NSIF file")->required();
+    aApp.add_option("-o", options->out, "File to write; standard output without it");
+    return [options] { return Report(*options); };
+}
+
+}  // namespace
+
+constexpr Command REPORT{
+    .name = "report",
+    .summary = "A page about a file for a person: map, pictures, graphics, findings, every field with its meaning",
+    .examples =
+        "report image.ntf -o image.html\n"
+        "report damaged.ntf > damaged.html",
+    .exitCodes =
+        "0 done, 1 the file is damaged and the page shows what can be read, 2 wrong use or a file that cannot be "
+        "opened",
+    .declare = DeclareReport};
+
+}  // namespace OrmoNitf
