@@ -7,6 +7,7 @@ import base64
 import json
 import os
 import re
+import shutil
 import subprocess
 import sys
 import xml.etree.ElementTree as tree
@@ -70,6 +71,24 @@ pictures = list(page.iter(XHTML + "img"))
 if pictures:
     check(base64.b64decode(pictures[0].get("src").split(",", 1)[1]).startswith(b"\x89PNG"), "the picture is no PNG")
 check(len(pictures) == 1, "no picture of the image")
+
+# In a browser the search is there and finds a field; nothing is wrong with the script.
+browser = shutil.which("chromium")
+if browser:
+    with open(os.path.join(WORK, "page.html")) as file:
+        text = file.read()
+    asked = os.path.join(WORK, "asked.html")
+    with open(asked, "w") as file:
+        file.write(text.replace("</body>", """<script>var asked = document.getElementById("search");
+asked.value = "l_lines"; asked.dispatchEvent(new Event("input"));</script></body>"""))
+    seen = subprocess.run([browser, "--headless", "--no-sandbox", "--disable-gpu", "--enable-logging=stderr",
+                           "--user-data-dir=" + os.path.join(WORK, "browser"), "--dump-dom", "file://" + asked],
+                          capture_output=True, text=True)
+    check("CONSOLE" not in seen.stderr, "the script is at fault: " + "".join(re.findall(".*CONSOLE.*", seen.stderr)))
+    check(re.search('<input id="search"[^>]*>', seen.stdout) and
+          "hidden" not in re.search('<input id="search"[^>]*>', seen.stdout).group(), "there is no search")
+    shown = re.findall('<tr class="field"><td class="name">([^<]*)', seen.stdout)
+    check(shown and all("L_LINES" in name for name in shown), f"the search finds {shown[:5]}")
 
 # A title, an identifier, a text and a tag that try to be markup.
 with open(SAMPLE, "rb") as file:

@@ -43,7 +43,7 @@ svg.map text.label { fill: var(--ink); text-anchor: middle; }
 @media print { #search { display: none; } }
 )";
 
-constexpr const char* SCRIPT = R"js(
+constexpr const char* SCRIPT = R"page(
 (function () {
   var box = document.getElementById("search");
   if (!box) { return; }
@@ -54,20 +54,19 @@ constexpr const char* SCRIPT = R"js(
     parts.forEach(function (part) {
       var table = part.querySelector(":scope > div > table");
       var any = part.querySelector(":scope > div > details.part:not([hidden])") !== null;
-var isNamed = part.querySelector(":scope > summary").textContent.toLowerCase().indexOf(wanted) >= 0;
-if (table) {
-    Array.prototype.forEach.call(
-        table.querySelectorAll("tr.field"), function(row) {
-            row.hidden = !isNamed && row.textContent.toLowerCase().indexOf(wanted) < 0;
-            any = any || !row.hidden;
+      var isNamed = part.querySelector(":scope > summary").textContent.toLowerCase().indexOf(wanted) >= 0;
+      if (table) {
+        Array.prototype.forEach.call(table.querySelectorAll("tr.field"), function (row) {
+          row.hidden = !isNamed && row.textContent.toLowerCase().indexOf(wanted) < 0;
+          any = any || !row.hidden;
         });
-}
-part.hidden = !(any || isNamed);
-part.open = wanted != = "" && !part.hidden;
-});
-});
+      }
+      part.hidden = !(any || isNamed);
+      part.open = wanted !== "" && !part.hidden;
+    });
+  });
 })();
-)js";
+)page";
 
 }  // namespace
 

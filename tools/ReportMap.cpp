@@ -116,7 +116,12 @@ private:
         const double east = 2 * m_centre.first - west;
         const double south = std::max(-90.0, m_centre.second - HEIGHT / 2 / m_scale);
         const double north = std::min(90.0, m_centre.second + HEIGHT / 2 / m_scale);
-        const double wide = m_step * (m_narrowing < 0.4 ? 2.0 : 1.0);
+        // Meridians stand as far apart as their labels need.
+        constexpr double LABEL = 72.0;
+        double wide = m_step;
+        for (const double factor : {2.0, 5.0, 10.0}) {
+            wide = wide * m_narrowing * m_scale < LABEL ? m_step * factor : wide;
+        }
         for (double at = std::ceil(west / wide) * wide; at <= east; at += wide) {
             aSvg += "<path class=\"grid\" d=\"M" + Text("%.1f %.1f", X(at), Y(north)) + Text("V%.1f", Y(south)) +
                     "\"/><text x=\"" + Text("%.1f", X(at) + 3) + "\" y=\"414\">" + Degrees(at, 'E', 'W') + "</text>\n";
