@@ -179,17 +179,23 @@ def progress(counts, total, start):
 def connect(arguments):
     """The client of the scheduler that is named, or of workers on this machine."""
     import cloudpickle
+    import dask
     from distributed import Client, LocalCluster
+    from tornado.ioloop import PeriodicCallback
 
     # Workers need not have this package.
     cloudpickle.register_pickle_by_value(sys.modules[Reader.__module__])
     with contextlib.ExitStack() as stack:
         scheduler = arguments.scheduler
         if scheduler is None and arguments.scheduler_file is None:
-            cluster = LocalCluster(n_workers=arguments.workers, threads_per_worker=1, dashboard_address=None)
+            # Nannies start workers again; where a nanny itself gives up, be it at the start, another one takes its place.
+            stack.enter_context(dask.config.set({"distributed.deploy.lost-worker-timeout": "60 s"}))
+            cluster = LocalCluster(n_workers=0, threads_per_worker=1, dashboard_address=None)
             scheduler = stack.enter_context(cluster)
-            # A nanny gives up on a worker that dies while it starts; another one takes its place.
-            cluster.adapt(minimum=arguments.workers, maximum=arguments.workers)
+            cluster.scale(arguments.workers)
+            again = PeriodicCallback(lambda: cluster.scale(arguments.workers), 5000)
+            cluster.loop.add_callback(again.start)
+            stack.callback(cluster.loop.add_callback, again.stop)
         yield stack.enter_context(Client(scheduler, scheduler_file=arguments.scheduler_file))
 
 
@@ -243,7 +249,7 @@ def catalogue(arguments, program, reader, paths):
                 if shown:
                     print("\r" + progress(run.counts, len(paths), start), end="\x1b[K", file=sys.stderr, flush=True)
 
-            if not client.nthreads():
+            if client.cluster is None and not client.nthreads():
                 print("ormo-nitf: the scheduler has no workers yet", file=sys.stderr)
             run = Run(client, reader, take)
             run.work(batches(paths, arguments.batch))
