@@ -24,7 +24,7 @@ cmake -S "$source_dir" -B "$work/build" -G Ninja -DORMO_CSMAPI_ROOT="$work/sdk" 
     { echo "FAILED: configuring with an SDK"; cat "$work/log"; exit 1; }
 
 check() {
-    g++ -std=c++20 -fsyntax-only -Wall -Wextra -Werror -DORMO_CSM_BUILDING -DORMO_CSMAPI_EXTERNAL -I"$source_dir" \
+    g++ -std=c++20 -fsyntax-only -fvisibility=hidden -Wall -Wextra -Werror -DORMO_CSM_BUILDING -DORMO_CSMAPI_EXTERNAL -I"$source_dir" \
         -I"$sdk" "$1" || { echo "FAILED: $1 with an SDK"; return 255; }
 }
 export -f check
