@@ -132,6 +132,10 @@ def check_contents():
     check(rows(catalogue, "SELECT count(*) FROM findings JOIN files ON files.id = file_id WHERE path LIKE "
                           "'%/0/ours.ntf'")[0][0] == shown, "other findings than validate")
 
+    link(SAMPLE, WORK + "/own/one.ntf")
+    _, said = run("-r", WORK + "/own", "-o", WORK + "/own/archive.gpkg")
+    check("1 file: 1 read" in said, "the catalogue takes itself for a file of the archive: " + said)
+
     _, said = run("-r", directory, "-o", catalogue)
     check(f"{len(files)} unchanged" in said and " read" not in said, "files that did not change are read again: " + said)
     before = contents(catalogue)

@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -95,6 +96,7 @@ private:
     {
         Candidates found = FindCandidates(m_options.files, m_options.nulls);
         m_isComplete = found.isComplete;
+        LeaveOutTheCatalogue(found.files);
         m_seen = found.files.size();
         if (m_catalogue != nullptr && !Prune(found, aReason)) {
             return false;
@@ -184,6 +186,21 @@ private:
             }
         }
         return true;
+    }
+
+    /// What is written may lie below the directories that are looked through, with its journal and its lock.
+    void LeaveOutTheCatalogue(std::vector<Candidate>& aFiles) const
+    {
+        if (m_options.out.empty()) {
+            return;
+        }
+        std::error_code ignored;
+        const std::string own = std::filesystem::weakly_canonical(m_options.out, ignored).string();
+        const auto isOwn = [&own](const Candidate& aFile) {
+            return !aFile.isNamed &&
+                   (aFile.path == own || aFile.path == own + "-journal" || aFile.path == own + ".lock");
+        };
+        aFiles.erase(std::remove_if(aFiles.begin(), aFiles.end(), isOwn), aFiles.end());
     }
 
     /// Files of the catalogue that are no longer below the directories that were looked through.
