@@ -10,9 +10,9 @@
 #include "isd/ImageSupportDataFactory.h"
 #include "isd/ImageSupportDataNITF.h"
 #include "segments/NITFFieldSegment.h"
+#include "segments/NITFSegmentTREs.h"
 #include "segments/NITFStdDataSegmentInfo.h"
 #include "tests/support/TempFile.h"
-#include "tre/TREStore.h"
 
 #include <algorithm>
 #include <array>
@@ -96,10 +96,8 @@ void ReadAll(const std::string& aPath)
     std::string name;
     ForEachSegment(dynamic_cast<const ImageSupportDataNITF&>(*isd), [&name](const NITFFieldSegment& aSegment) {
         AddFields(aSegment, name);
-        for (const TREStore* const store : {&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()}) {
-            for (const TRE* const tre : store->InOrder()) {
-                AddFields(*tre, name);
-            }
+        for (const TRE* const tre : NITFSegmentTREs::GetAll(aSegment)) {
+            AddFields(*tre, name);
         }
     });
 }
@@ -152,16 +150,14 @@ public:
         ForEachSegment(aIsd, [&](const NITFFieldSegment& aSegment) {
             std::string name;
             Add(aSegment, name, [&aSegment](std::size_t aIndex) { return aSegment.GetFieldOffset(aIndex); });
-            for (const TREStore* const store : {&aSegment.GetTREStore(), &aSegment.GetOverflowTREStore()}) {
-                for (const TRE* const tre : store->InOrder()) {
-                    std::uint64_t at = tre->GetFileOffset() + 11;
-                    for (std::size_t i = 0; i != tre->GetNumOfFields(); ++i) {
-                        const char* value = nullptr;
-                        std::size_t length = 0;
-                        tre->GetFieldAt(i, name, value, length);
-                        m_fields.push_back({at, length});
-                        at += length;
-                    }
+            for (const TRE* const tre : NITFSegmentTREs::GetAll(aSegment)) {
+                std::uint64_t at = tre->GetFileOffset() + 11;
+                for (std::size_t i = 0; i != tre->GetNumOfFields(); ++i) {
+                    const char* value = nullptr;
+                    std::size_t length = 0;
+                    tre->GetFieldAt(i, name, value, length);
+                    m_fields.push_back({at, length});
+                    at += length;
                 }
             }
         });

@@ -5,20 +5,12 @@
 #include "isd/ImageSupportDataNITF.h"
 #include "tests/support/EveryQuery.h"
 #include "tests/support/OpenedIsd.h"
-#include "tools/Commands.h"
+#include "tests/support/ProgramRun.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <iostream>
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
-#include <vector>
-
-#include <CLI/CLI.hpp>
 
 namespace OrmoFuzz {
 
@@ -45,50 +37,23 @@ Isd MadeOrRefused(Make aMake)
     return Isd(made);
 }
 
-/// A command of the program over the file of the path, with the options that let it say most.
-class Told
+/// What a command writes to standard output.
+std::string Told(const Tests::ProgramRun& aProgram)
 {
-public:
-    Told(const OrmoNitf::Command& aCommand, std::vector<std::string> aOptions, const std::string& aPath)
-    {
-        m_action = aCommand.declare(m_app);
-        aOptions.push_back(aPath);
-        std::reverse(aOptions.begin(), aOptions.end());
-        m_app.parse(aOptions);
-    }
-
-    /// What it writes to standard output.
-    std::string Text() const
-    {
-        char* text = nullptr;
-        std::size_t size = 0;
-        std::FILE* const results = open_memstream(&text, &size);
-        std::ostringstream problems;
-        std::FILE* const out = std::exchange(stdout, results);
-        std::streambuf* const err = std::cerr.rdbuf(problems.rdbuf());
-        m_action();
-        std::cerr.rdbuf(err);
-        stdout = out;
-        std::fclose(results);
-        std::string told(text, size);
-        std::free(text);
-        RequireNoControls(problems.str());
-        return told;
-    }
-
-private:
-    CLI::App m_app;
-    OrmoNitf::Action m_action;
-};
+    Tests::ProgramRun::Outcome outcome = aProgram.Run();
+    RequireNoControls(outcome.problems);
+    return std::move(outcome.text);
+}
 
 void CheckProgram(const std::string& aPath)
 {
-    static const Told json(OrmoNitf::JSON, {"--salvage"}, aPath);
-    static const Told typed(OrmoNitf::JSON, {"--salvage", "--typed"}, aPath);
-    static const Told info(OrmoNitf::INFO, {"--salvage", "--all"}, aPath);
-    RequireJson(json.Text());
-    RequireJson(typed.Text());
-    RequireNoControls(info.Text());
+    // With the options that let them say most; the path is the same for every input.
+    static const Tests::ProgramRun json(OrmoNitf::JSON, {"--salvage", aPath});
+    static const Tests::ProgramRun typed(OrmoNitf::JSON, {"--salvage", "--typed", aPath});
+    static const Tests::ProgramRun info(OrmoNitf::INFO, {"--salvage", "--all", aPath});
+    RequireJson(Told(json));
+    RequireJson(Told(typed));
+    RequireNoControls(Told(info));
 }
 
 void CheckCopy(const ImageSupportData& aIsd)

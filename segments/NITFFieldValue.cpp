@@ -2,6 +2,7 @@
 
 #include "fields/DateText.h"
 #include "fields/FieldRecord.h"
+#include "fields/Number.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/detail/SegmentLayout.h"
 #include "tre/detail/TreHelp.h"
@@ -36,17 +37,10 @@ bool IsDateRule(std::string_view aRule) noexcept
     return aRule.substr(0, 5) == "{CCYY" || aRule.substr(0, 5) == "{YYYY" || aRule.substr(0, 5) == "{DDHH";
 }
 
-std::string_view TrimmedBlanks(std::string_view aText) noexcept
-{
-    const auto first = aText.find_first_not_of(' ');
-    return first == std::string_view::npos ? std::string_view{}
-                                           : aText.substr(first, aText.find_last_not_of(' ') - first + 1);
-}
-
 Kind KindOf(const FieldRecord& aRecord, const FieldEntry& aEntry, NITFFieldValue& aValue)
 {
     const FieldRow& row = aRecord.Store().Row(aEntry);
-    const std::string_view trimmed = TrimmedBlanks(aValue.text);
+    const std::string_view trimmed = Detail::TrimBlanks(aValue.text);
     const bool isText = !row.IsBinary() && row.form != Detail::Form::Records;
     aValue.text = isText ? trimmed : aValue.text;
     if (aValue.text.empty()) {

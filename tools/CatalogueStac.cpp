@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
@@ -54,9 +55,8 @@ std::pair<std::string, std::string> RangeOf(const std::string& aDate)
                                   &first[4], &first[5]);
     std::array<int, 6> last{first[0], known > 1 ? first[1] : 12, first[2], 23, 59, 59};
     if (known < 3) {
-        constexpr std::array<int, 12> DAYS{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-        const bool isLeap = first[0] % 4 == 0 && (first[0] % 100 != 0 || first[0] % 400 == 0);
-        last[2] = DAYS.at(static_cast<std::size_t>(last[1] - 1)) + (isLeap && last[1] == 2 ? 1 : 0);
+        const auto month = std::chrono::year(first[0]) / std::chrono::month(static_cast<unsigned>(last[1]));
+        last[2] = static_cast<int>(static_cast<unsigned>((month / std::chrono::last).day()));
     }
     for (int i = 3; i < known; ++i) {
         last[static_cast<std::size_t>(i)] = first[static_cast<std::size_t>(i)];

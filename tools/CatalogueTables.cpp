@@ -4,6 +4,8 @@
 #include "foundation/PropertyKey.h"
 #include "isd/ImageSupportDataFactory.h"
 #include "isd/PropertyCatalogue.h"
+#include "segments/NITFFieldValue.h"
+#include "segments/NITFSegmentTREs.h"
 #include "segments/NITFWords.h"
 #include "tools/CatalogueFootprint.h"
 #include "tools/FindingWords.h"
@@ -256,19 +258,13 @@ Json GroundSampleDistance(const NITFImageSubheader& aImage)
                                                                {"CSEXRB", "GEO_MEAN_GSD"},
                                                                {"EXOPTA", "MEAN_GSD"},
                                                                {"PIAIMC", "MEANGSD"}};
-    const std::vector<const TREStore*> stores = StoresOf(aImage);
     for (const auto& [tag, field] : SOURCES) {
-        for (const TREStore* const store : stores) {
-            const TRE* const tre = store->First(tag);
-            double distance = 0.0;
-            if (tre == nullptr || !tre->GetFieldAsDouble(field, distance) || distance <= 0.0) {
-                continue;
-            }
-            const TRE::FieldInfos* const infos = tre->GetAllTreFieldInfos();
-            const auto info = infos == nullptr ? TRE::FieldInfos::const_iterator() : infos->find(field);
-            if (infos != nullptr && info != infos->end()) {
-                return info->second.unit == "in" ? distance * METRES_PER_INCH : distance;
-            }
+        const TRE* const tre = NITFSegmentTREs::GetFirst(aImage, tag);
+        double distance = 0.0;
+        TreDetailedInfo info;
+        if (tre != nullptr && tre->GetFieldAsDouble(field, distance) && distance > 0.0 &&
+            NITFFieldValue::GetInfo(*tre, field, info)) {
+            return info.unit == "in" ? distance * METRES_PER_INCH : distance;
         }
     }
     return nullptr;
@@ -365,8 +361,7 @@ const Rows<Segment>& SegmentRows()
          }},
         {{"classification", Type::Text, "The marking of its subheader"},
          [](const Segment& s) {
-             return FirstOf(s.header,
-                            {"ISCLAS", "SSCLAS", "LSCLAS", "TSCLAS", "DESCLAS", "DECLAS", "RESCLAS", "RECLAS"});
+             return s.header == nullptr ? Json(nullptr) : TextOrNull(ValueText(s.header->GetClassification()));
          }},
         {{"header_offset", Type::Integer, "Where its subheader begins in the file"},
          [](const Segment& s) { return Json(s.info.GetSegmentHeaderStart()); }},
@@ -507,10 +502,11 @@ private:
     static void AppendTres(const NITFFieldSegment* aSegment, NITFCnst::DataSegmentType aKind, std::size_t aIndex,
                            Json& aTres)
     {
-        for (const TREStore* const store : aSegment == nullptr ? std::vector<const TREStore*>() : StoresOf(*aSegment)) {
-            for (const TRE* const tre : store->InOrder()) {
-                aTres.push_back(ObjectOf(ExtensionRows(), {aKind, aIndex, *tre}));
-            }
+        if (aSegment == nullptr) {
+            return;
+        }
+        for (const TRE* const tre : NITFSegmentTREs::GetAll(*aSegment)) {
+            aTres.push_back(ObjectOf(ExtensionRows(), {aKind, aIndex, *tre}));
         }
     }
 

@@ -1,7 +1,8 @@
 // The command that tells a file to a person as one page.
 
 #include "foundation/CSMUtilString.h"
-#include "segments/NITFHeaderCatalogue.h"
+#include "segments/NITFFieldValue.h"
+#include "segments/NITFSegmentTREs.h"
 #include "segments/NITFWords.h"
 #include "tools/CatalogueFootprint.h"
 #include "tools/Commands.h"
@@ -16,7 +17,6 @@
 #include "tools/TypedValue.h"
 
 #include <algorithm>
-#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -248,62 +248,48 @@ private:
         return text;
     }
 
-    /// A header with its fields, and its TREs inside.
-    std::string Part(const std::string& aTitle, const NITFFieldSegment& aSegment) const
+    static bool IsArea(const TRE& /*aOwner*/, const std::string& /*aField*/) { return false; }
+    static bool IsArea(const NITFFieldSegment& aOwner, const std::string& aField)
     {
-        std::string content = "<table>\n<tr><th>field</th><th>value</th><th>meaning</th></tr>\n";
+        return aOwner.GetFieldValueDataType(aField.c_str()) == Util::CSMCnst::DATA_TYPE_EXTENSION_DATA;
+    }
+
+    /// The fields of a header or TRE, each with its value and with what `aMeaning` says of it.
+    template<typename Owner, typename Meaning>
+    static std::string FieldsOf(const Owner& aOwner, Meaning aMeaning)
+    {
+        std::string text = "<table>\n<tr><th>field</th><th>value</th><th>meaning</th></tr>\n";
         std::string name;
-        for (std::size_t i = 0; i != aSegment.GetNumOfFields(); ++i) {
+        for (std::size_t i = 0; i != aOwner.GetNumOfFields(); ++i) {
             const char* value = nullptr;
             std::size_t length = 0;
-            if (!aSegment.GetFieldAt(i, name, value, length)) {
+            TreDetailedInfo info;
+            if (!aOwner.GetFieldAt(i, name, value, length)) {
                 continue;
             }
-            const std::string_view bytes(value, length);
-            const bool isArea = aSegment.GetFieldValueDataType(name.c_str()) == Util::CSMCnst::DATA_TYPE_EXTENSION_DATA;
-            std::string meaning = MeaningOf(aSegment, name);
-            // A value that its table puts into words.
-            const std::string words = isArea ? std::string() : NITFWords::Meaning(aSegment, name);
-            if (!words.empty() && words != NITFWords::Shown(bytes)) {
-                meaning = words + ". " + meaning;
-            }
-            content += RowOf(name, isArea ? "TREs of " + NITFWords::Size(length) : ShownValue(bytes), meaning);
+            NITFFieldValue::GetInfo(aOwner, name, info);
+            const bool isArea = IsArea(aOwner, name);
+            text += "<tr class=\"field\">" + Cell("name", ValueText(name)) +
+                    Cell("value", isArea ? "TREs of " + NITFWords::Size(length) : ShownValue({value, length})) +
+                    Cell("soft", aMeaning(info, isArea ? std::string_view() : std::string_view(value, length))) +
+                    "</tr>\n";
         }
-        content += "</table>\n";
-        for (const TREStore* const store : StoresOf(aSegment)) {
-            for (const TRE* const tre : store->InOrder()) {
-                content += Extension(*tre);
-            }
+        return text + "</table>\n";
+    }
+
+    /// A header with its fields, and its TREs inside.
+    static std::string Part(const std::string& aTitle, const NITFFieldSegment& aSegment)
+    {
+        // The long name without the values that it may list, behind what the table says that the value means.
+        std::string content = FieldsOf(aSegment, [&aSegment](const TreDetailedInfo& aInfo, std::string_view aValue) {
+            const std::string words = aValue.empty() ? "" : NITFWords::Meaning(aSegment, aInfo.fieldName);
+            return (words.empty() || words == NITFWords::Shown(aValue) ? "" : words + ". ") +
+                   aInfo.longName.substr(0, aInfo.longName.find(" ["));
+        });
+        for (const TRE* const tre : NITFSegmentTREs::GetAll(aSegment)) {
+            content += Extension(*tre);
         }
         return ClosedPart(OrmoNitf::Html(aTitle), content);
-    }
-
-    static std::string RowOf(const std::string& aName, const std::string& aValue, const std::string& aMeaning)
-    {
-        return "<tr class=\"field\">" + Cell("name", ValueText(aName)) + Cell("value", aValue) +
-               Cell("soft", aMeaning) + "</tr>\n";
-    }
-
-    /// The first line that `describe` says of a field, behind the field and its header.
-    std::string MeaningOf(const NITFFieldSegment& aSegment, const std::string& aField) const
-    {
-        const NITFCnst::Version version = m_isd.GetNITFFileVersionCode() == NITFCnst::NITF_VERSION_NUMBER_20
-                                              ? NITFCnst::NITF_VERSION_NUMBER_20
-                                              : NITFCnst::NITF_VERSION_NUMBER_21;
-        const std::string key = std::to_string(aSegment.GetDataSegmentType()) +
-                                aField.substr(0, aField.find_last_not_of("0123456789_") + 1);
-        const auto known = m_meanings.find(key);
-        if (known != m_meanings.end()) {
-            return known->second;
-        }
-        std::string text;
-        if (NITFHeaderCatalogue::DescribeField(aSegment.GetDataSegmentType(), version, aField.c_str(), text)) {
-            const auto begin = text.find("): ");
-            text = text.substr(0, text.find('\n'));
-            text.erase(0, begin == std::string::npos ? 0 : begin + 3);
-            text.resize(std::min(text.size(), text.find(" [")));
-        }
-        return m_meanings[key] = text;
     }
 
     static std::string Extension(const TRE& aTre)
@@ -313,37 +299,19 @@ private:
         const std::string title = "TRE " + tag + ": " + (aTre.IsGenericTRE() ? "not decoded" : aTre.GetTREName()) +
                                   ", " + NITFWords::Size(aTre.GetLengthOfDataField()) +
                                   (area.empty() ? "" : ", " + area);
-        const TRE::FieldInfos* const infos = aTre.GetAllTreFieldInfos();
-        std::string content = "<table>\n<tr><th>field</th><th>value</th><th>meaning</th></tr>\n";
-        std::string name;
-        for (std::size_t i = 0; i != aTre.GetNumOfFields(); ++i) {
-            const char* value = nullptr;
-            std::size_t length = 0;
-            if (!aTre.GetFieldAt(i, name, value, length)) {
-                continue;
-            }
-            std::string meaning;
-            const auto info = infos == nullptr ? TRE::FieldInfos::const_iterator() : infos->find(name);
-            if (infos != nullptr && info != infos->end()) {
-                meaning = MeaningOf(info->second);
-            }
-            content += RowOf(name, ShownValue({value, length}), meaning);
-        }
-        return ClosedPart(OrmoNitf::Html(title), content + "</table>\n");
-    }
-
-    static std::string MeaningOf(const TreDetailedInfo& aInfo)
-    {
-        std::string text = aInfo.longName + (aInfo.unit.empty() ? "" : ", " + aInfo.unit);
-        const auto explanation = aInfo.description.find("]. ");
-        return explanation == std::string::npos ? text : text + ". " + aInfo.description.substr(explanation + 3);
+        return ClosedPart(OrmoNitf::Html(title), FieldsOf(aTre, [](const TreDetailedInfo& aInfo, std::string_view) {
+                              const std::string text = aInfo.longName + (aInfo.unit.empty() ? "" : ", " + aInfo.unit);
+                              const auto explanation = aInfo.description.find("]. ");
+                              return explanation == std::string::npos
+                                         ? text
+                                         : text + ". " + aInfo.description.substr(explanation + 3);
+                          }));
     }
 
     const std::string& m_path;
     ImageSupportDataNITF& m_isd;
     std::vector<Finding> m_refusal;
     std::vector<Finding> m_readFindings;
-    mutable std::map<std::string, std::string> m_meanings;
 };
 
 struct Options

@@ -6,7 +6,6 @@
 #include "foundation/CSMUtilString.h"
 #include "foundation/detail/Ascii.h"
 #include "segments/des/DesDESDATA.h"
-#include "segments/des/DesDESDATACSATTA.h"
 #include "segments/des/DesDESSHF.h"
 #include "segments/des/SupportedDESDATAs.h"
 #include "segments/des/SupportedDESSHFs.h"
@@ -225,10 +224,11 @@ const DesDESDATA* NITFDESSubheader::GetDESDATAFields(std::string* aErrors) const
         std::string data;
         // Only the data of a known type are read at all.
         const bool known = SupportedDESDATAs::AbleToCreateDESDATA(type.c_str());
-        if (type == SupportedDESDATAs::DES_CSATTA && GetSegmentDataSize() > DesDESDATACSATTA::MOST_BYTES) {
-            fields.fault = "ERROR: The data of the DES are longer than those of its type can be [most = " +
-                           std::to_string(DesDESDATACSATTA::MOST_BYTES) +
-                           ", found = " + std::to_string(GetSegmentDataSize()) + "].";
+        const std::size_t most = SupportedDESDATAs::GetMostBytes(type.c_str());
+        if (most != 0 && GetSegmentDataSize() > most) {
+            fields.fault =
+                "ERROR: The data of the DES are longer than those of its type can be [most = " + std::to_string(most) +
+                ", found = " + std::to_string(GetSegmentDataSize()) + "].";
             return fields;
         }
         if (known && !ReadData(data)) {

@@ -18,7 +18,7 @@ namespace {
 
 using Makers = Detail::DesMakers<DesDESDATA, 6>;
 
-constexpr Makers MAKERS{{{{SupportedDESDATAs::DES_CSATTA, Makers::Make<DesDESDATACSATTA>},
+constexpr Makers MAKERS{{{{SupportedDESDATAs::DES_CSATTA, Makers::Make<DesDESDATACSATTA>, DesDESDATACSATTA::MOST_BYTES},
                           {SupportedDESDATAs::DES_CSSHPA, Makers::Make<DesDESDATACSSHPA>},
                           {SupportedDESDATAs::CSATTB, Makers::Make<DesDESDATACSATTB>},
                           {SupportedDESDATAs::CSCSDB, Makers::Make<DesDESDATACSCSDB>},
@@ -36,6 +36,12 @@ const std::vector<const char*>& SupportedDESDATAs::GetAllSupportedDESDATAs()
 bool SupportedDESDATAs::AbleToCreateDESDATA(const char* aType) noexcept
 {
     return MAKERS.Find(aType) != nullptr;
+}
+
+std::size_t SupportedDESDATAs::GetMostBytes(const char* aType) noexcept
+{
+    const Makers::Maker* const maker = MAKERS.Find(aType);
+    return maker == nullptr ? 0 : maker->most;
 }
 
 bool SupportedDESDATAs::ValidateInputs(const char* aType, const char* aData, std::size_t aLength,

@@ -24,6 +24,8 @@ public:
 
     static const std::vector<const char*>& GetAllSupportedDESDATAs();
     static bool AbleToCreateDESDATA(const char* aType) noexcept;
+    /// The most bytes that the data of a type can have; 0 when its layout sets no bound, or is not known.
+    static std::size_t GetMostBytes(const char* aType) noexcept;
     /// Makes an object from the bytes; the caller releases it with DestroyDESDATA. False, with the reason in `aMessage`
     /// when that is given (a new text that the caller frees with CSMUtilString::DeleteCString), when none is made. A
     /// type that is not known gives a warning.

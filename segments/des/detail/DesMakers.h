@@ -23,6 +23,7 @@ struct DesMakers
     {
         const char* type;
         std::unique_ptr<Base> (*make)(const char* aType, const char* aData, std::size_t aLength);
+        std::size_t most = 0;  ///< bytes that the layout can hold; 0 when it sets no bound
     };
 
     template<typename Class>

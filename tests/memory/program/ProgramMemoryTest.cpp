@@ -2,21 +2,14 @@
 
 #include "tests/memory/ShortMemory.h"
 #include "tests/support/NitfBuilder.h"
+#include "tests/support/ProgramRun.h"
 #include "tests/support/TempFile.h"
-#include "tools/Commands.h"
 #include "tools/Isd.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <iostream>
 #include <new>
-#include <sstream>
 #include <string>
 #include <utility>
-#include <vector>
 
-#include <CLI/CLI.hpp>
 #include <gtest/gtest.h>
 
 namespace ORMO::SensorModel::CSM::Tests {
@@ -30,57 +23,21 @@ std::string SmallFile()
     return builder.Bytes();
 }
 
-struct Outcome
+/// Runs it while memory fails at that allocation; it may leave by the exception that main tells.
+ProgramRun::Outcome RunShort(const ProgramRun& aProgram, std::size_t aFails, bool& aFailed)
 {
-    std::string text;
-    std::string problems;
-    int code = -1;
-};
-
-/// A command of the program with its arguments read.
-class Program
-{
-public:
-    Program(const OrmoNitf::Command& aCommand, std::vector<std::string> aArguments)
-    {
-        m_action = aCommand.declare(m_app);
-        std::reverse(aArguments.begin(), aArguments.end());
-        m_app.parse(aArguments);
-    }
-
-    /// Runs it while memory fails at that allocation; it may leave by the exception that main tells.
-    Outcome Run(std::size_t aFails, bool& aFailed) const
-    {
-        Outcome outcome;
-        char* text = nullptr;
-        std::size_t size = 0;
-        std::FILE* const results = open_memstream(&text, &size);
-        std::ostringstream problems;
-        std::FILE* const out = std::exchange(stdout, results);
-        std::streambuf* const err = std::cerr.rdbuf(problems.rdbuf());
-        {
-            const ShortMemory shortage(aFails);
-            try {
-                outcome.code = m_action();
-            } catch (const std::bad_alloc&) {
-                outcome.code = OrmoNitf::EXIT_WRONG_USE;
-            }
-            aFailed = ShortMemory::HasFailed();
+    return aProgram.Run([&](const OrmoNitf::Action& aAction) {
+        int code = OrmoNitf::EXIT_WRONG_USE;
+        const ShortMemory shortage(aFails);
+        try {
+            code = aAction();
+        } catch (const std::bad_alloc&) {
+            code = OrmoNitf::EXIT_WRONG_USE;
         }
-        std::cerr.rdbuf(err);
-        std::cerr.clear();
-        stdout = out;
-        std::fclose(results);
-        outcome.text.assign(text, size);
-        std::free(text);
-        outcome.problems = problems.str();
-        return outcome;
-    }
-
-private:
-    CLI::App m_app;
-    OrmoNitf::Action m_action;
-};
+        aFailed = ShortMemory::HasFailed();
+        return code;
+    });
+}
 
 class ProgramMemoryTest : public testing::TestWithParam<std::pair<const OrmoNitf::Command*, const char*>>
 {
@@ -95,9 +52,9 @@ TEST_P(ProgramMemoryTest, SaysAllOrThatItFailed)
 {
     constexpr std::size_t NEVER = std::size_t{1} << 40U;
     const TempFile file(SmallFile());
-    const Program program(*GetParam().first, {GetParam().second, file.Path()});
+    const ProgramRun program(*GetParam().first, {GetParam().second, file.Path()});
     bool failed = false;
-    const Outcome whole = program.Run(NEVER, failed);
+    const ProgramRun::Outcome whole = RunShort(program, NEVER, failed);
     ASSERT_EQ(OrmoNitf::EXIT_DONE, whole.code);
     ASSERT_FALSE(whole.text.empty());
     std::size_t failures = 0;
@@ -107,7 +64,7 @@ TEST_P(ProgramMemoryTest, SaysAllOrThatItFailed)
         for (std::size_t n = 0; failed; ++n) {
             const std::size_t before = LiveBlocks();
             {
-                const Outcome outcome = program.Run(n, failed);
+                const ProgramRun::Outcome outcome = RunShort(program, n, failed);
                 if (outcome.code == OrmoNitf::EXIT_DONE) {
                     ASSERT_EQ(whole.text, outcome.text) << "allocation " << n;
                 } else {
